@@ -1,0 +1,47 @@
+# SPDX-FileCopyrightText: 2026 The ImportModule authors
+# SPDX-License-Identifier: MIT
+
+# What every target of the project shares: language level, warnings,
+# instrumentation, and the helper that adds a test program.
+
+add_library(import_module_options INTERFACE)
+target_compile_features(import_module_options INTERFACE cxx_std_20)
+target_compile_options(import_module_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion
+    $<$<BOOL:${IMPORT_MODULE_WERROR}>:-Werror>)
+if(IMPORT_MODULE_SANITIZE)
+    target_compile_options(import_module_options INTERFACE
+        -fsanitize=${IMPORT_MODULE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    target_link_options(import_module_options INTERFACE -fsanitize=${IMPORT_MODULE_SANITIZE})
+endif()
+if(IMPORT_MODULE_COVERAGE)
+    target_compile_options(import_module_options INTERFACE --coverage -O0 -fprofile-abs-path)
+    target_link_options(import_module_options INTERFACE --coverage)
+endif()
+
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+set(CMAKE_POSITION_INDEPENDENT_CODE ON)
+
+# import_module_library(NAME): a library of the project, empty so far, with the
+# include root of all rooms.
+function(import_module_library name)
+    add_library(${name})
+    add_library(ImportModule::${name} ALIAS ${name})
+    target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:import_module_options>)
+    target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>)
+    set_target_properties(${name} PROPERTIES
+        VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+endfunction()
+
+# import_module_test(NAME SOURCES file... LIBRARIES target...): a GoogleTest
+# program whose cases ctest runs one by one.
+function(import_module_test name)
+    cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+    add_executable(${name} ${arg_SOURCES})
+    target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
+    target_link_libraries(${name} PRIVATE
+        import_module_options ${arg_LIBRARIES} GTest::gtest_main GTest::gmock)
+    gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+endfunction()

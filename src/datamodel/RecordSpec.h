@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "datamodel/FieldSpec.h"
+
+struct TableSpec;
+
+/// The schema of a record: its fields, and the tables nested in it, both in
+/// order. Lookup by name takes constant time. Immutable but for the switch of
+/// a date field; the records made from it keep a pointer to it.
+class DM_API RecordSpec {
+public:
+    RecordSpec(std::vector<FieldSpec> fields, std::vector<TableSpec> tables);
+    ~RecordSpec();
+    RecordSpec(RecordSpec&&) noexcept;
+    RecordSpec& operator=(RecordSpec&&) noexcept;
+    RecordSpec(const RecordSpec&) = delete;
+    RecordSpec& operator=(const RecordSpec&) = delete;
+
+    const std::vector<FieldSpec>& fields() const { return m_fields; }
+    const std::vector<TableSpec>& tables() const { return m_tables; }
+
+    /// Index of the field of that name, compared byte for byte.
+    std::optional<std::size_t> fieldIndex(std::string_view name) const;
+    std::optional<std::size_t> tableIndex(std::string_view name) const;
+
+    /// Whether that date field takes the zero date from now on. What is already
+    /// stored stays.
+    void setTakesZeroDate(std::string_view field, bool takes);
+
+    TableSpec* table(std::string_view name);
+
+private:
+    std::vector<FieldSpec> m_fields;
+    std::vector<TableSpec> m_tables;
+    std::vector<std::uint8_t> m_buckets; // hash of a field's name to its index plus one
+};
