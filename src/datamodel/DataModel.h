@@ -6,8 +6,8 @@
 
 #include "datamodel/RecordNode.h"
 #include "datamodel/RecordSpec.h"
-#include "framework/datamodel_api/DMSchemaContext.h"
 #include "framework/datamodel_api/DmApi.h"
+#include "framework/datamodel_api/DMSchemaContext.h"
 
 /// One tree and the schema that describes it. `DataManager` owns one.
 class DM_API DataModel {

@@ -41,6 +41,10 @@ private:
     ~FieldNode();
     RecordNode& record() const;
 
+    DataType textValue() const;
+    void restoreText(const DataType& value);
+    void releaseText();
+
     template <typename T>
     T content() const;
     template <typename T>

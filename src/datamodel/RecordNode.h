@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <span>
 
 #include "datamodel/FieldNode.h"
@@ -54,9 +53,13 @@ private:
     RecordNode(const RecordSpec& spec, DMSchemaContext& context);
     ~RecordNode();
 
+    // What lies behind the record in its allocation.
+    FieldNode* firstField() const;
+    TableNode** firstTable() const;
+    std::span<TableNode*> tables() const; // null where not made yet
+
     const RecordSpec* m_spec;
     DMSchemaContext* m_context;
-    std::unique_ptr<std::unique_ptr<TableNode>[]> m_tables;
     std::int64_t m_storeId = 0;
     bool m_changed = false;
 };

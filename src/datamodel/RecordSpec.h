@@ -18,6 +18,8 @@ struct TableSpec;
 /// a date field; the records made from it keep a pointer to it.
 class DM_API RecordSpec {
 public:
+    /// Names must be unique across fields and tables and not empty, and there
+    /// are at most 255 of both; throws std::invalid_argument otherwise.
     RecordSpec(std::vector<FieldSpec> fields, std::vector<TableSpec> tables);
     ~RecordSpec();
     RecordSpec(RecordSpec&&) noexcept;
@@ -31,15 +33,21 @@ public:
     /// Index of the field of that name, compared byte for byte.
     std::optional<std::size_t> fieldIndex(std::string_view name) const;
     std::optional<std::size_t> tableIndex(std::string_view name) const;
+    /// Place of the field or table of that name, fields first, then tables.
+    std::optional<std::size_t> position(std::string_view name) const;
 
     /// Whether that date field takes the zero date from now on. What is already
-    /// stored stays.
+    /// stored stays. Throws std::invalid_argument when there is no such date field.
     void setTakesZeroDate(std::string_view field, bool takes);
 
+    /// Null when there is no table of that name.
     TableSpec* table(std::string_view name);
 
 private:
+    const std::string& nameAt(std::size_t position) const;
+    void enter(std::size_t position);
+
     std::vector<FieldSpec> m_fields;
     std::vector<TableSpec> m_tables;
-    std::vector<std::uint8_t> m_buckets; // hash of a field's name to its index plus one
+    std::vector<std::uint8_t> m_buckets; // hash of a name to its position plus one; 0: free
 };

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "datamodel/RecordSpec.h"
+#include "datamodel/RowSlot.h"
 #include "datamodel/RowSource.h"
 #include "framework/datamodel_api/NodeTable.h"
 
@@ -33,11 +34,14 @@ public:
     RecordNode* row(unsigned number);
     /// Row from 1 if it is in memory; null otherwise.
     RecordNode* rowIfLoaded(unsigned number) const;
+    /// Null when the table is full.
     RecordNode* append();
     /// False when `record` is no row of this table.
     bool remove(RecordNode* record);
 
-    /// Gives an empty table `count` rows that `source` loads on demand.
+    /// Gives an empty table `count` rows that `source` loads on demand. Throws
+    /// std::invalid_argument when the table is not empty, `source` is null or
+    /// `count` above `kMaxRows`.
     void attach(std::shared_ptr<RowSource> source, unsigned count);
 
     /// The first rows, as many as the store already has; what follows is new.
@@ -48,15 +52,12 @@ public:
     void markStored();
 
 private:
-    struct Slot {
-        RecordNode* record = nullptr; // null: not loaded yet
-    };
+    RecordNode* load(unsigned number);
 
     const RecordSpec* m_rowSpec;
     DMSchemaContext* m_context;
-    std::vector<Slot> m_rows;
+    std::vector<RowSlot> m_rows;
     std::shared_ptr<RowSource> m_source;
-    std::vector<unsigned> m_sourceRows; // only once a stored row was removed: slot to source row
     unsigned m_storedRows = 0;
     std::vector<std::int64_t> m_removed;
 };
