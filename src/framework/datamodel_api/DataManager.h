@@ -24,7 +24,9 @@ public:
 
     /// The model behind the contract, for programs that are built with it
     /// (see datamodel/DataModel.h).
-    class DataModel& model() const { return *m_model; }
+    class DataModel& model() const {
+        return *m_model;
+    }
 
 private:
     std::unique_ptr<class DataModel> m_model;

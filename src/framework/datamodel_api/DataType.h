@@ -5,8 +5,8 @@
 #include <cstdint>
 #include <string>
 
-#include "framework/datamodel_api/DMDate.h"
 #include "framework/datamodel_api/DmApi.h"
+#include "framework/datamodel_api/DMDate.h"
 
 /// A typed value as a leaf of the host's tree holds it.
 ///

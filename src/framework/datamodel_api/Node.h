@@ -3,8 +3,8 @@
 #pragma once
 
 #include "framework/datamodel_api/DataType.h"
-#include "framework/datamodel_api/DMSchemaContext.h"
 #include "framework/datamodel_api/DmApi.h"
+#include "framework/datamodel_api/DMSchemaContext.h"
 #include "framework/datamodel_api/NDX.h"
 
 /// One node of the host's tree: named children (fields, tables), rows, or a

@@ -1,0 +1,29 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "framework/ImportModuleApi.h"
+
+/// Learns from the lines of a file which character separates its columns: the
+/// one that occurs equally often on every line. Serves one file.
+class IMPORT_MODULE_API DelimiterFinder {
+public:
+    DelimiterFinder();
+
+    void clear();
+    /// A null or empty line counts for nothing.
+    void scanLine(const char* line);
+    /// Judges a last line that has no partner. Call once, after the last line.
+    void endScan();
+    /// 0 when no character qualifies.
+    char getBestDelimiter() const;
+
+private:
+    /// Codes 1 to 126 are counted; Latin-1 letters never separate columns.
+    static constexpr int kCodes = 127;
+
+    int m_lineCount;
+    int m_firstLineCount[kCodes]; ///< occurrences in the first line; 0 once disqualified
+    int m_balance[kCodes];        ///< occurrences, added on even lines (from 0) and taken off on odd ones
+    int m_sign;                   ///< of the line scanned last; 0 before the first
+};

@@ -1,0 +1,99 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "csv/ImportCSVBase.h"
+
+#include <algorithm>
+#include <cstdio>
+
+#include "csv/unquoteInPlace.h"
+#include "framework/AssertTypeSizes.h"
+
+template <typename T>
+ImportCSVBase<T>::ImportCSVBase() {
+    m_columnAssignment.m_count = kNoAssignment;
+}
+
+template <typename T>
+bool ImportCSVBase<T>::processLine(char* line, Node* /*target*/) {
+    const int columnCount = extractColumns(line);
+    if (columnCount == 0)
+        return false;
+    return importRowIntoTable(m_row, columnCount, m_processedCount) && compelteRowProcessing(m_skipRow);
+}
+
+template <typename T>
+void ImportCSVBase<T>::assignColumns(const ColumnAssignment& assignment) {
+    m_columnAssignment = assignment;
+    m_dateColumn = -1;
+    for (int i = 0; i < pairCount(); ++i) {
+        if (m_columnAssignment.m_pairs[i].m_column == Import::eColDatum) {
+            m_dateColumn = m_columnAssignment.m_pairs[i].m_inputColumn;
+            return;
+        }
+    }
+}
+
+template <typename T>
+int ImportCSVBase<T>::pairCount() const {
+    return std::min(m_columnAssignment.m_count, ColumnAssignment::kMaxPairs);
+}
+
+template <typename T>
+const char* ImportCSVBase<T>::getAssignedColumnNameForIndex(int fileColumn) const {
+    for (int i = 0; i < pairCount(); ++i) {
+        if (m_columnAssignment.m_pairs[i].m_inputColumn == fileColumn)
+            return getColumnNameForIndex(m_columnAssignment.m_pairs[i].m_column);
+    }
+    return nullptr;
+}
+
+template <typename T>
+int ImportCSVBase<T>::extractColumns(char* line) {
+    m_row = T{};
+    const int limit = m_variableColumns ? kVariableColumnLimit : T::kColumns;
+    int count = 0;
+    char* at = line;
+    for (;;) {
+        char* const field = at;
+        bool quoted = false;
+        bool insideQuotes = false;
+        for (; *at != '\0'; ++at) {
+            if (*at == '"') {
+                quoted = true;
+                insideQuotes = !insideQuotes;
+            } else if (*at == m_delimiter && !insideQuotes) {
+                break;
+            }
+        }
+        const bool endOfLine = *at == '\0';
+        *at = '\0';
+        m_row.m_columns[count++] = quoted ? unquoteInPlace(field) : field;
+        if (endOfLine)
+            break;
+        if (count == limit) {
+            if (m_variableColumns)
+                return count;
+            reportColumnCount(limit, count + 1); // how many more there are is not counted
+            return 0;
+        }
+        ++at;
+    }
+    if (m_variableColumns || count == limit)
+        return count;
+    reportColumnCount(limit, count);
+    return 0;
+}
+
+template <typename T>
+void ImportCSVBase<T>::reportColumnCount(int expected, int found) {
+    // Hosts show this text as it is, XML or not.
+    char message[160];
+    std::snprintf(message, sizeof message,
+                  "Fehler beim Analysieren der Daten aus der XML-Datei.\n"
+                  "Zeile %d: Erwartete Werte:%d    Vorhandene Werte %d",
+                  m_lineNo, expected, found);
+    m_errorMsg = message;
+}
+
+template class ImportCSVBase<UnknownRowInfo>;
+template class ImportCSVBase<ImportDataSetStartMoney>;

@@ -1,0 +1,163 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "dmwrite/SmartDate.h"
+
+#include <charconv>
+#include <cstdio>
+#include <limits>
+
+#include "framework/AssertTypeSizes.h"
+
+namespace {
+
+enum Order : int { eUnknown = 0, eDayFirst = 1, eMonthFirst = 2 };
+
+constexpr int kGreatestMonth = 12;
+
+/// The number that the digits spell; one too large for an int is the largest int.
+int numberFrom(const std::string& digits) {
+    int number = 0;
+    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    return result.ec == std::errc::result_out_of_range ? std::numeric_limits<int>::max() : number;
+}
+
+} // namespace
+
+int SmartDate::sm_order = eUnknown;
+bool SmartDate::m_useQIFSyntax = false;
+unsigned short SmartDate::sm_CenturyWindowStart = 30;
+
+SmartDate::SmartDate() { m_useQIFSyntax = false; }
+
+void SmartDate::clear() {
+    m_apostropheYear = false;
+    m_first = 0;
+    m_second = 0;
+    m_year = 0;
+    m_valid = true;
+}
+
+bool SmartDate::parse(const char* text) {
+    if (text == nullptr || *text == '\0')
+        return false;
+    std::string digits;
+    int separators = 0;
+    for (; *text != '\0'; ++text) {
+        switch (*text) {
+        case '0':
+        case '1':
+        case '2':
+        case '3':
+        case '4':
+        case '5':
+        case '6':
+        case '7':
+        case '8':
+        case '9':
+            digits += *text;
+            break;
+        case '\'':
+            if (separators == 1 && m_useQIFSyntax)
+                m_apostropheYear = true;
+            [[fallthrough]];
+        case '-':
+        case '.':
+        case '/':
+            setNumber(separators, digits);
+            // Beyond the third separator nothing counts any more.
+            separators = separators < 3 ? separators + 1 : separators;
+            digits.clear();
+            break;
+        default:
+            break;
+        }
+    }
+    if (separators < 2)
+        m_valid = false;
+    else if (separators == 2)
+        setNumber(2, digits);
+    return isValid();
+}
+
+void SmartDate::setNumber(int index, const std::string& digits) {
+    switch (index) {
+    case 0:
+        m_first = numberFrom(digits);
+        learnOrder(m_first, eDayFirst);
+        break;
+    case 1:
+        m_second = numberFrom(digits);
+        learnOrder(m_second, eMonthFirst);
+        break;
+    case 2:
+        m_year = numberFrom(digits);
+        if (digits.size() <= 2)
+            m_year = widenYear(m_year);
+        break;
+    default:
+        break;
+    }
+}
+
+void SmartDate::learnOrder(int number, int orderItProves) {
+    if (number <= kGreatestMonth)
+        return;
+    if (sm_order == eUnknown)
+        sm_order = orderItProves;
+    else if (sm_order != orderItProves)
+        m_valid = false;
+}
+
+int SmartDate::widenYear(int year) const {
+    if (m_useQIFSyntax && m_apostropheYear)
+        year += 2000;
+    if (year <= static_cast<int>(sm_CenturyWindowStart))
+        return year + 2000;
+    return year <= 99 ? year + 1900 : year;
+}
+
+bool SmartDate::isValid() const {
+    if (!m_valid)
+        return false;
+    int day = 0;
+    int month = 0;
+    if (sm_order == eUnknown || sm_order == eDayFirst) {
+        day = m_first;
+        month = m_second;
+    } else if (sm_order == eMonthFirst) {
+        day = m_second;
+        month = m_first;
+    }
+    return DMDate::DayWithinMonth(static_cast<unsigned>(month), static_cast<unsigned>(day),
+                                  static_cast<unsigned>(m_year)) != 0;
+}
+
+DMDate SmartDate::getDate() const {
+    if (!isValid())
+        return DMDate(0, 0, 0);
+    const auto first = static_cast<unsigned>(m_first);
+    const auto second = static_cast<unsigned>(m_second);
+    const auto year = static_cast<unsigned>(m_year);
+    switch (sm_order) {
+    case eUnknown:
+    case eDayFirst:
+        return DMDate(first, second, year);
+    case eMonthFirst:
+        return DMDate(second, first, year);
+    default: // a host may take month and day 0 for a day
+        return DMDate();
+    }
+}
+
+std::string SmartDate::asString() const {
+    char text[40]; // three ints of any size
+    const int length = std::snprintf(text, sizeof text, "%02d.%02d.%04d", m_first, m_second, m_year);
+    return {text, static_cast<std::string::size_type>(length)};
+}
+
+void SmartDate::setupCenturyStart(Node* node) {
+    if (node == nullptr)
+        return;
+    if (const DMSchemaContext* context = node->getSchemaContext())
+        sm_CenturyWindowStart = context->getCenturyWindowStart();
+}
