@@ -1,0 +1,25 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The ImportModule authors
+# SPDX-License-Identifier: MIT
+#
+# Checks the layout of every C++ file (.clang-format) and lints the sources (.clang-tidy).
+#
+# usage: scripts/lint.sh [FILE...]    lint these sources only; by default everything under src
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+
+scripts/install-packages.sh build check
+
+folders=()
+for folder in src tests bench examples fuzz; do
+    [[ ! -d $folder ]] || folders+=("$folder")
+done
+find "${folders[@]}" \( -name '*.h' -o -name '*.cpp' \) -print0 | xargs -0 clang-format --dry-run -Werror
+
+# clang-tidy reads the flags of each source from the clang build; nothing needs to be built for it.
+cmake --preset clang >/dev/null
+if (($# > 0)); then
+    printf '%s\0' "$@"
+else
+    find src -name '*.cpp' -print0
+fi | xargs -0 -n 1 -P "$(nproc)" clang-tidy -p build/clang --quiet

@@ -1,0 +1,82 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The ImportModule authors
+# SPDX-License-Identifier: MIT
+#
+# Installs what is missing, builds the project and runs all tests.
+#
+# usage: scripts/test.sh [OPTION...]     without options: the tests, built with g++
+#   --lint       layout and lint of the sources (scripts/lint.sh)
+#   --clang      build with clang++, warnings are errors
+#   --sanitize   the tests under AddressSanitizer and UndefinedBehaviorSanitizer
+#   --coverage   the tests, instrumented, with a report (scripts/coverage.sh)
+#   --tests      the tests, as without options
+#   --all        all of these, in this order
+set -euo pipefail
+cd "$(dirname "${BASH_SOURCE[0]}")/.."
+jobs=$(nproc)
+
+usage() { sed -n '/^# usage/,/^set/{/^set/d;s/^# \{0,1\}//p}' "${BASH_SOURCE[0]}"; }
+
+step() { printf '\n== %s (%d s so far)\n' "$1" "$SECONDS"; }
+
+build() {
+    cmake --preset "$1"
+    cmake --build --preset "$1" --parallel "$jobs"
+}
+
+run_tests() {
+    ctest --preset "$1" --parallel "$jobs"
+}
+
+do_lint() {
+    step "Layout and lint"
+    scripts/lint.sh
+}
+
+do_clang() {
+    step "Build with clang++"
+    build clang
+}
+
+do_sanitize() {
+    step "Tests under AddressSanitizer and UndefinedBehaviorSanitizer"
+    build sanitize
+    run_tests sanitize
+}
+
+do_coverage() {
+    step "Coverage of the library"
+    scripts/coverage.sh
+}
+
+do_tests() {
+    step "Tests"
+    build dev
+    run_tests dev
+}
+
+# In the order of the list above, whatever the order on the command line.
+declare -A chosen=()
+for option in "$@"; do
+    case $option in
+    --lint | --clang | --sanitize | --coverage | --tests) chosen[${option#--}]=1 ;;
+    --all) chosen=([lint]=1 [clang]=1 [sanitize]=1 [coverage]=1 [tests]=1) ;;
+    --help) usage && exit 0 ;;
+    *)
+        printf 'test.sh: no such option: %s\n\n' "$option" >&2
+        usage >&2
+        exit 2
+        ;;
+    esac
+done
+if ((${#chosen[@]} == 0)); then
+    chosen[tests]=1
+fi
+
+step "Packages"
+scripts/install-packages.sh build
+for name in lint clang sanitize coverage tests; do
+    [[ -n ${chosen[$name]:-} ]] || continue
+    [[ $name == tests || $name == sanitize ]] || scripts/install-packages.sh check
+    "do_$name"
+done
