@@ -6,10 +6,12 @@
 
 #include "csv/ImportCSVInterface.h"
 #include "csv/ImportModuleCSV.h"
+#include "csv/ImportModuleStarMoney.h"
 #include "dmwrite/SmartDate.h"
 #include "framework/AssertTypeSizes.h"
 #include "framework/ImportModuleBase.h"
 #include "framework/ImportRecordSetImpl.h"
+#include "qif/ImportModuleQIF.h"
 
 namespace {
 
@@ -65,9 +67,9 @@ void ImportExternData::initFileFormatList() {
     if (!m_FileFormatInfoListCreator.empty())
         return;
     m_FileFormatInfoListCreator = {
-        {Import::eFormatStarMoney, "Star Money", "ssx"},
+        {Import::eFormatStarMoney, "Star Money", ImportModuleStarMoney::m_MyFileExtension},
         {Import::eFormatCSV, "Komma getrennte Liste", ImportModuleCSV::m_MyFileExtension},
-        {Import::eFormatQIF, "Quicken Interchange Format", "qif"},
+        {Import::eFormatQIF, "Quicken Interchange Format", ImportModuleQIF::m_MyFileExtension},
         {Import::eFormatTaxData, "Steuer Daten Import", "sdi"},
         {Import::eFormatZasterhof, "Zasterhof Money Import", "zhof"},
     };
@@ -78,8 +80,14 @@ bool ImportExternData::create(Import::E_SupportedImportFormats format) {
     m_module.reset();
     m_format = format;
     switch (static_cast<int>(format)) { // hosts pass numbers that are no format
+    case Import::eFormatStarMoney:
+        m_module = std::make_unique<ImportModuleStarMoney>();
+        break;
     case Import::eFormatCSV:
         m_module = std::make_unique<ImportModuleCSV>();
+        break;
+    case Import::eFormatQIF:
+        m_module = std::make_unique<ImportModuleQIF>();
         break;
     case Import::eFormatTaxData:
         m_module = std::make_unique<ImportModuleCSV>();

@@ -1,0 +1,14 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "framework/datamodel_api/DMStringFunctions.h"
+
+/// A line without the blanks at its ends, then without the tabs at what are its
+/// ends then. Once each: a blank inside a tab stays.
+inline std::string stripBlanks(const char* line) {
+    return DMStringFunctions::strip(DMStringFunctions::strip(line, DMStringFunctions::eStripBoth, ' '),
+                                    DMStringFunctions::eStripBoth, '\t');
+}
