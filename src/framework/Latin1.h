@@ -22,7 +22,7 @@ struct Utf8Literal {
 
 template <Utf8Literal literal>
 struct Latin1Text {
-    static consteval auto convert() {
+    static constexpr auto convert() {
         std::array<char, sizeof(literal.bytes)> out{};
         std::size_t length = 0;
         for (std::size_t i = 0; i + 1 < sizeof(literal.bytes); ++i) {
