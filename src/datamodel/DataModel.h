@@ -4,10 +4,10 @@
 
 #include <memory>
 
+#include "datamodel/ModelContext.h"
 #include "datamodel/RecordNode.h"
 #include "datamodel/RecordSpec.h"
 #include "framework/datamodel_api/DmApi.h"
-#include "framework/datamodel_api/DMSchemaContext.h"
 
 /// One tree and the schema that describes it. `DataManager` owns one.
 class DM_API DataModel {
@@ -23,8 +23,12 @@ public:
     RecordSpec& schema() { return m_schema; }
     const RecordSpec& schema() const { return m_schema; }
 
+    /// Who hears of every write to this tree from now on; null for nobody. Must
+    /// outlive the tree, or take itself off.
+    void setObserver(ModelObserver* observer) { m_context.setObserver(observer); }
+
 private:
     RecordSpec m_schema;
-    DMSchemaContext m_context;
+    ModelContext m_context;
     RecordNode* m_root;
 };

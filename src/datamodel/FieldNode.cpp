@@ -5,6 +5,8 @@
 #include <cstring>
 
 #include "datamodel/DataTypeAccess.h"
+#include "datamodel/ModelContext.h"
+#include "datamodel/ModelObserver.h"
 #include "datamodel/RecordNode.h"
 
 static_assert(sizeof(FieldNode) == 24, "nine fields and their record share four cache lines");
@@ -75,8 +77,14 @@ DataType FieldNode::textValue() const {
 
 bool FieldNode::setValue(const DataType& value, const NDX& where, int /*flags*/) {
     RecordNode& owner = record();
-    if (where.name() != nullptr || !owner.spec().fields()[m_index].takes(value))
+    if (where.name() != nullptr)
         return false;
+    const FieldSpec& spec = owner.spec().fields()[m_index];
+    if (!spec.takes(value)) {
+        if (ModelObserver* observer = owner.m_context->observer())
+            observer->valueRefused(owner, spec, value);
+        return false;
+    }
     restore(value);
     owner.m_changed = true;
     return true;

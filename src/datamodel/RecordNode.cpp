@@ -5,6 +5,7 @@
 #include <memory>
 #include <new>
 
+#include "datamodel/ModelContext.h"
 #include "datamodel/TableNode.h"
 #include "datamodel/TableSpec.h"
 
@@ -14,7 +15,7 @@ static_assert(sizeof(RecordNode) % alignof(FieldNode) == 0);
 static_assert(sizeof(FieldNode) % alignof(TableNode*) == 0);
 static_assert(alignof(RecordNode) <= __STDCPP_DEFAULT_NEW_ALIGNMENT__);
 
-RecordNode* RecordNode::make(const RecordSpec& spec, DMSchemaContext& context) {
+RecordNode* RecordNode::make(const RecordSpec& spec, ModelContext& context) {
     const std::size_t bytes =
         sizeof(RecordNode) + spec.fields().size() * sizeof(FieldNode) + spec.tables().size() * sizeof(TableNode*);
     return new (::operator new(bytes)) RecordNode(spec, context);
@@ -27,7 +28,7 @@ void RecordNode::destroy(RecordNode* record) {
     ::operator delete(record);
 }
 
-RecordNode::RecordNode(const RecordSpec& spec, DMSchemaContext& context) : m_spec(&spec), m_context(&context) {
+RecordNode::RecordNode(const RecordSpec& spec, ModelContext& context) : m_spec(&spec), m_context(&context) {
     FieldNode* field = firstField();
     for (std::size_t i = 0; i < spec.fields().size(); ++i)
         new (field + i) FieldNode(static_cast<std::uint8_t>(i));

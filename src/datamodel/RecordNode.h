@@ -10,6 +10,7 @@
 #include "datamodel/RecordSpec.h"
 #include "framework/datamodel_api/Node.h"
 
+class ModelContext;
 class TableNode;
 
 /// A record: a row of a table, or the root. Its fields lie behind it in the
@@ -18,7 +19,7 @@ class DM_API RecordNode final : public Node {
 public:
     /// Makes a record with every field of `spec`, each empty. `spec` and
     /// `context` must outlive it. Released with `destroy`.
-    static RecordNode* make(const RecordSpec& spec, DMSchemaContext& context);
+    static RecordNode* make(const RecordSpec& spec, ModelContext& context);
     static void destroy(RecordNode* record);
 
     void prepareUpdate() override;
@@ -50,7 +51,7 @@ public:
 private:
     friend class FieldNode;
 
-    RecordNode(const RecordSpec& spec, DMSchemaContext& context);
+    RecordNode(const RecordSpec& spec, ModelContext& context);
     ~RecordNode();
 
     // What lies behind the record in its allocation.
@@ -59,7 +60,7 @@ private:
     std::span<TableNode*> tables() const; // null where not made yet
 
     const RecordSpec* m_spec;
-    DMSchemaContext* m_context;
+    ModelContext* m_context;
     std::int64_t m_storeId = 0;
     bool m_changed = false;
 };

@@ -5,6 +5,8 @@
 #include <algorithm>
 #include <stdexcept>
 
+#include "datamodel/ModelContext.h"
+#include "datamodel/ModelObserver.h"
 #include "datamodel/RecordNode.h"
 
 namespace {
@@ -18,7 +20,7 @@ static_assert(alignof(RecordNode) >= 2, "RowSlot marks rows that are not loaded 
 
 } // namespace
 
-TableNode::TableNode(const RecordSpec& rowSpec, DMSchemaContext& context) : m_rowSpec(&rowSpec), m_context(&context) {}
+TableNode::TableNode(const RecordSpec& rowSpec, ModelContext& context) : m_rowSpec(&rowSpec), m_context(&context) {}
 
 TableNode::~TableNode() {
     for (const RowSlot& slot : m_rows)
@@ -56,10 +58,16 @@ RecordNode* TableNode::rowIfLoaded(unsigned number) const {
 }
 
 RecordNode* TableNode::append() {
-    if (m_rows.size() >= kMaxRows)
+    ModelObserver* observer = m_context->observer();
+    if (m_rows.size() >= kMaxRows) {
+        if (observer != nullptr)
+            observer->rowRefused(*this);
         return nullptr;
+    }
     OwnedRecord record(RecordNode::make(*m_rowSpec, *m_context));
     m_rows.push_back(RowSlot::ofRecord(record.get()));
+    if (observer != nullptr)
+        observer->rowAppended(*this, *record);
     return record.release();
 }
 

@@ -11,6 +11,7 @@
 #include "datamodel/RowSource.h"
 #include "framework/datamodel_api/NodeTable.h"
 
+class ModelContext;
 class RecordNode;
 
 /// A table of records. Rows that a store holds are loaded when first asked for.
@@ -19,7 +20,7 @@ class DM_API TableNode final : public NodeTable {
 public:
     static constexpr unsigned kMaxRows = 65535;
 
-    TableNode(const RecordSpec& rowSpec, DMSchemaContext& context);
+    TableNode(const RecordSpec& rowSpec, ModelContext& context);
     ~TableNode();
 
     void prepareUpdate() override;
@@ -55,7 +56,7 @@ private:
     RecordNode* load(unsigned number);
 
     const RecordSpec* m_rowSpec;
-    DMSchemaContext* m_context;
+    ModelContext* m_context;
     std::vector<RowSlot> m_rows;
     std::shared_ptr<RowSource> m_source;
     unsigned m_storedRows = 0;
