@@ -11,12 +11,17 @@ namespace {
 
 constexpr std::size_t kMostChildren = 255; // a bucket holds position plus one in a byte
 
-// Names of a schema differ in their length or one of three characters as a rule.
-std::size_t hashOf(std::string_view name) {
+// Names of a schema differ in their length or one of three characters as a
+// rule. The multiplier spreads them over the upper bits; this one leaves the
+// names of the finance schema without a collision.
+std::uint32_t hashOf(std::string_view name) {
+    constexpr std::uint32_t kSpread = 3266489917;
     if (name.empty())
         return 0;
-    const auto at = [name](std::size_t i) { return static_cast<std::size_t>(static_cast<unsigned char>(name[i])); };
-    return name.size() * 7 + at(0) * 31 + at(name.size() / 2) * 5 + at(name.size() - 1);
+    const auto at = [name](std::size_t i) { return std::uint32_t{static_cast<unsigned char>(name[i])}; };
+    const std::uint32_t key = static_cast<std::uint32_t>(name.size()) ^ (at(0) << 8) ^ (at(name.size() / 2) << 16) ^
+                              (at(name.size() - 1) << 24);
+    return key * kSpread;
 }
 
 [[noreturn]] void refuse(const std::string& reason) { throw std::invalid_argument("RecordSpec: " + reason); }
@@ -28,39 +33,39 @@ RecordSpec::RecordSpec(std::vector<FieldSpec> fields, std::vector<TableSpec> tab
     const std::size_t count = m_fields.size() + m_tables.size();
     if (count > kMostChildren)
         refuse("more than 255 fields and tables");
+    m_names.reserve(count);
     m_buckets.resize(std::bit_ceil(4 * count + 4));
-    for (std::size_t i = 0; i < count; ++i)
-        enter(i);
+    m_hashShift = std::countl_zero(static_cast<std::uint32_t>(m_buckets.size() - 1));
+    for (const FieldSpec& field : m_fields)
+        enter(field.name);
+    for (const TableSpec& table : m_tables)
+        enter(table.name);
 }
 
 RecordSpec::~RecordSpec() = default;
 RecordSpec::RecordSpec(RecordSpec&&) noexcept = default;
 RecordSpec& RecordSpec::operator=(RecordSpec&&) noexcept = default;
 
-const std::string& RecordSpec::nameAt(std::size_t position) const {
-    return position < m_fields.size() ? m_fields[position].name : m_tables[position - m_fields.size()].name;
-}
-
-void RecordSpec::enter(std::size_t position) {
-    const std::string& name = nameAt(position);
+void RecordSpec::enter(std::string_view name) {
     if (name.empty())
         refuse("a name is empty");
     const std::size_t mask = m_buckets.size() - 1;
-    std::size_t bucket = hashOf(name) & mask;
+    std::size_t bucket = hashOf(name) >> m_hashShift;
     for (; m_buckets[bucket] != 0; bucket = (bucket + 1) & mask) {
-        if (nameAt(m_buckets[bucket] - 1U) == name)
-            refuse("two children are named " + name);
+        if (m_names[m_buckets[bucket] - 1U] == name)
+            refuse("two children are named " + std::string(name));
     }
-    m_buckets[bucket] = static_cast<std::uint8_t>(position + 1);
+    m_names.push_back(name);
+    m_buckets[bucket] = static_cast<std::uint8_t>(m_names.size());
 }
 
 std::optional<std::size_t> RecordSpec::position(std::string_view name) const {
     if (m_buckets.empty())
         return std::nullopt; // moved from
     const std::size_t mask = m_buckets.size() - 1;
-    for (std::size_t bucket = hashOf(name) & mask; m_buckets[bucket] != 0; bucket = (bucket + 1) & mask) {
+    for (std::size_t bucket = hashOf(name) >> m_hashShift; m_buckets[bucket] != 0; bucket = (bucket + 1) & mask) {
         const std::size_t found = m_buckets[bucket] - 1U;
-        if (nameAt(found) == name)
+        if (m_names[found] == name)
             return found;
     }
     return std::nullopt;

@@ -44,10 +44,11 @@ public:
     TableSpec* table(std::string_view name);
 
 private:
-    const std::string& nameAt(std::size_t position) const;
-    void enter(std::size_t position);
+    void enter(std::string_view name);
 
     std::vector<FieldSpec> m_fields;
     std::vector<TableSpec> m_tables;
-    std::vector<std::uint8_t> m_buckets; // hash of a name to its position plus one; 0: free
+    std::vector<std::string_view> m_names; // by position; they view the specs above, which moving leaves in place
+    std::vector<std::uint8_t> m_buckets;   // hash of a name to its position plus one; 0: free
+    int m_hashShift = 0;                   // what leaves the number of a bucket of a hash
 };
