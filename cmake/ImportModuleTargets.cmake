@@ -36,12 +36,24 @@ function(import_module_library name)
 endfunction()
 
 # import_module_test(NAME SOURCES file... LIBRARIES target...): a GoogleTest
-# program whose cases ctest runs one by one.
+# program whose cases ctest runs one by one, and once more all together under a
+# locale with a decimal comma (tests/support).
 function(import_module_test name)
     cmake_parse_arguments(arg "" "" "SOURCES;LIBRARIES" ${ARGN})
+    if(NOT TARGET import_module_test_main)
+        add_subdirectory(${PROJECT_SOURCE_DIR}/tests/support ${CMAKE_BINARY_DIR}/tests/support)
+    endif()
     add_executable(${name} ${arg_SOURCES})
     target_include_directories(${name} PRIVATE ${PROJECT_SOURCE_DIR}/tests)
     target_link_libraries(${name} PRIVATE
-        import_module_options ${arg_LIBRARIES} GTest::gtest_main GTest::gmock)
+        import_module_options ${arg_LIBRARIES} import_module_test_main)
     gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 300)
+
+    get_property(locpath GLOBAL PROPERTY IMPORT_MODULE_TEST_LOCPATH)
+    set(environment IMPORT_MODULE_TEST_LOCALE=comma)
+    if(locpath)
+        list(APPEND environment "LOCPATH=${locpath}")
+    endif()
+    add_test(NAME ${name}.decimal_comma COMMAND ${name})
+    set_tests_properties(${name}.decimal_comma PROPERTIES ENVIRONMENT "${environment}" TIMEOUT 300)
 endfunction()
