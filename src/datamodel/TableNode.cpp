@@ -64,11 +64,12 @@ RecordNode* TableNode::append() {
             observer->rowRefused(*this);
         return nullptr;
     }
-    OwnedRecord record(RecordNode::make(*m_rowSpec, *m_context));
-    m_rows.push_back(RowSlot::ofRecord(record.get()));
+    OwnedRecord owned(RecordNode::make(*m_rowSpec, *m_context));
+    m_rows.push_back(RowSlot::ofRecord(owned.get()));
+    RecordNode* record = owned.release();
     if (observer != nullptr)
         observer->rowAppended(*this, *record);
-    return record.release();
+    return record;
 }
 
 bool TableNode::remove(RecordNode* record) {

@@ -49,7 +49,8 @@ public:
     unsigned storedRowCount() const { return m_storedRows; }
     /// Store ids of rows removed since the table was last marked as stored.
     const std::vector<std::int64_t>& removedStoreIds() const { return m_removed; }
-    /// The store now holds the table as it is (rows included).
+    /// The store now holds the table as it is, rows included. Tables nested in
+    /// the rows keep count for themselves.
     void markStored();
 
 private:
