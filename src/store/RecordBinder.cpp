@@ -1,0 +1,58 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "store/RecordBinder.h"
+
+#include <algorithm>
+
+#include "datamodel/HostText.h"
+#include "store/StoreDate.h"
+
+namespace {
+
+bool isAscii(std::string_view text) {
+    unsigned char all = 0;
+    for (const char c : text)
+        all |= static_cast<unsigned char>(c);
+    return all < 0x80;
+}
+
+} // namespace
+
+std::string_view RecordBinder::utf8(std::size_t field, std::string_view hostText) {
+    if (isAscii(hostText))
+        return hostText;
+    m_converted[field].clear();
+    HostText::appendUtf8(m_converted[field], hostText);
+    return m_converted[field];
+}
+
+void RecordBinder::bind(SqliteStatement& statement, int firstParameter, const RecordNode& record) {
+    const auto fields = record.fields();
+    m_converted.resize(std::max(m_converted.size(), fields.size()));
+    int parameter = firstParameter;
+    for (std::size_t i = 0; i < fields.size(); ++i, ++parameter) {
+        const FieldNode& field = fields[i];
+        switch (field.kind()) {
+        case DataType::eEmpty:
+            statement.bindNull(parameter);
+            break;
+        case DataType::eInteger:
+            statement.bind(parameter, std::int64_t{field.getValue().getInt()});
+            break;
+        case DataType::eCurrency:
+            statement.bind(parameter, field.getValue().getCurrency());
+            break;
+        case DataType::eString:
+            statement.bind(parameter, utf8(i, field.text()));
+            break;
+        case DataType::eDate:
+            m_converted[i].resize(StoreDate::kLength);
+            StoreDate::write(m_converted[i].data(), field.getValue().getDate());
+            statement.bind(parameter, std::string_view(m_converted[i]));
+            break;
+        case DataType::eBoolean:
+            statement.bind(parameter, std::int64_t{field.getValue().getBoolean()});
+            break;
+        }
+    }
+}

@@ -1,0 +1,110 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "store/Store.h"
+
+#include <optional>
+
+#include "datamodel/DataModel.h"
+#include "datamodel/TableSpec.h"
+#include "store/ModelWriter.h"
+#include "store/StoreDatabase.h"
+#include "store/StoreTree.h"
+
+namespace {
+
+void copySwitches(const RecordSpec& from, RecordSpec& to) {
+    for (const FieldSpec& field : from.fields()) {
+        if (field.kind == DataType::eDate)
+            to.setTakesZeroDate(field.name, field.takesZeroDate);
+    }
+    for (const TableSpec& table : from.tables())
+        copySwitches(table.row, to.table(table.name)->row);
+}
+
+} // namespace
+
+class Store::Impl {
+public:
+    Impl(const std::filesystem::path& path, Access access, std::chrono::milliseconds patience)
+        : m_database(path, access, patience) {
+        if (m_database.hasTables())
+            m_tree.emplace(m_database);
+        load();
+    }
+
+    DataManager& model() {
+        m_database.begin();
+        if (m_database.isStale() || m_outdated)
+            load();
+        return *m_model;
+    }
+
+    void commit() {
+        if (m_database.access() == StoreAccess::readOnly)
+            throw StoreError(StoreErrorCode::readOnly, m_database.connection().path().given);
+        throwIfUnreadable();
+        m_database.begin();
+        if (m_database.isStale())
+            throw StoreError(StoreErrorCode::changed, m_database.connection().path().given);
+        if (m_outdated)
+            load();
+        ModelWriter writer(*m_tree);
+        try {
+            writer.write(root(*m_model));
+            m_database.commit();
+        } catch (...) {
+            m_database.rollback();
+            throw;
+        }
+        writer.markStored(root(*m_model));
+    }
+
+    void rollback() {
+        m_outdated = true;
+        if (m_tree)
+            m_tree->clearReadError();
+    }
+
+    void throwIfUnreadable() const {
+        if (m_tree && m_tree->readError())
+            throw *m_tree->readError();
+    }
+
+private:
+    static RecordNode& root(DataManager& manager) { return manager.model().root(); }
+
+    void load() {
+        auto fresh = std::make_unique<DataManager>();
+        if (m_model)
+            copySwitches(m_model->model().schema(), fresh->model().schema());
+        if (m_tree) {
+            m_tree->loadRoot(root(*fresh));
+            m_tree->clearReadError();
+        }
+        m_database.acceptState();
+        m_model = std::move(fresh);
+        m_outdated = false;
+    }
+
+    StoreDatabase m_database;
+    std::optional<StoreTree> m_tree;      // none: an empty file opened for reading
+    std::unique_ptr<DataManager> m_model; // before the tree its rows come from
+    bool m_outdated = false;
+};
+
+Store::Store(std::unique_ptr<Impl> impl) : m_impl(std::move(impl)) {}
+Store::~Store() = default;
+Store::Store(Store&&) noexcept = default;
+Store& Store::operator=(Store&&) noexcept = default;
+
+Store Store::open(const std::filesystem::path& path, Access access, std::chrono::milliseconds patience) {
+    return Store(std::make_unique<Impl>(path, access, patience));
+}
+
+DataManager& Store::model() { return m_impl->model(); }
+
+void Store::commit() { m_impl->commit(); }
+
+void Store::rollback() { m_impl->rollback(); }
+
+void Store::throwIfUnreadable() const { m_impl->throwIfUnreadable(); }
