@@ -22,8 +22,8 @@ private:
     /// Codes 1 to 126 are counted; Latin-1 letters never separate columns.
     static constexpr int kCodes = 127;
 
-    int m_lineCount;
+    int m_lineCount = 0;
     int m_firstLineCount[kCodes]; ///< occurrences in the first line; 0 once disqualified
     int m_balance[kCodes];        ///< occurrences, added on even lines (from 0) and taken off on odd ones
-    int m_sign;                   ///< of the line scanned last; 0 before the first
+    int m_sign = 0;               ///< of the line scanned last; 0 before the first
 };

@@ -13,7 +13,7 @@ namespace {
 std::string fixedPoint(double magnitude, unsigned short decimals) {
     constexpr std::size_t kMostIntegerDigits = std::numeric_limits<double>::max_exponent10 + 1;
     std::string text(kMostIntegerDigits + 1 + decimals, '\0');
-    const auto end =
+    const char* const end =
         std::to_chars(text.data(), text.data() + text.size(), magnitude, std::chars_format::fixed, decimals).ptr;
     text.resize(static_cast<std::size_t>(end - text.data()));
     return text;

@@ -16,6 +16,7 @@ public:
     static RowSlot ofSourceRow(unsigned row) { return RowSlot((std::uintptr_t{row} << 1) | 1); }
 
     /// Null while the row is not loaded.
+    // NOLINTNEXTLINE(performance-no-int-to-ptr): the word was made from a pointer; half the memory of a tagged pair
     RecordNode* record() const { return isLoaded() ? reinterpret_cast<RecordNode*>(m_word) : nullptr; }
     /// Only of a row that is not loaded.
     unsigned sourceRow() const { return static_cast<unsigned>(m_word >> 1); }

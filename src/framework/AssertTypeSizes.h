@@ -8,6 +8,7 @@
 // import runs, the host hears from each of them with which sizes it was built.
 namespace {
 
+// NOLINTNEXTLINE(misc-definitions-in-headers): one in every source file is what this is for
 [[maybe_unused]] const bool g_typeSizesAsserted = [] {
     AssertTypeSize_Node::assertTypeSize(sizeof(Node));
     AssertTypeSize_DataManager::assertTypeSize(sizeof(DataManager));

@@ -104,6 +104,7 @@ bool ImportExternData::create(Import::E_SupportedImportFormats format) {
     return true;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): hosts link against this signature
 bool ImportExternData::create(std::string fileName) {
     const std::string::size_type dot = fileName.rfind('.');
     if (dot == std::string::npos)

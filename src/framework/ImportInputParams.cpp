@@ -7,9 +7,7 @@
 
 #include "framework/AssertTypeSizes.h"
 
-ImportInputParams::ImportInputParams()
-    : m_fileName(nullptr), m_targetNode(nullptr), m_importInfo(nullptr), m_firstLineIsHeader(0), m_simulate(0),
-      m_buffer(nullptr), m_bufferSize(0) {}
+ImportInputParams::ImportInputParams() = default;
 
 void ImportInputParams::setInputFileBuffer(const char* buffer, unsigned long size) {
     m_fileName = nullptr;

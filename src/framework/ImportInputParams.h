@@ -18,11 +18,11 @@ struct IMPORT_MODULE_API ImportInputParams {
     const char* getBuffer() const { return m_buffer; }
     unsigned long getBufferSize() const { return m_bufferSize; }
 
-    const char* m_fileName;   ///< path, Latin-1; its extension selects the module
-    Node* m_targetNode;       ///< root of the data model that receives the records
-    const char* m_importInfo; ///< free description kept with the session; null for none
-    char m_firstLineIsHeader; ///< non-zero: the first line is a header (generic CSV)
-    char m_simulate;          ///< non-zero: write nothing, fill the preview table
-    const char* m_buffer;
-    unsigned long m_bufferSize; ///< bytes
+    const char* m_fileName = nullptr;   ///< path, Latin-1; its extension selects the module
+    Node* m_targetNode = nullptr;       ///< root of the data model that receives the records
+    const char* m_importInfo = nullptr; ///< free description kept with the session; null for none
+    char m_firstLineIsHeader = 0;       ///< non-zero: the first line is a header (generic CSV)
+    char m_simulate = 0;                ///< non-zero: write nothing, fill the preview table
+    const char* m_buffer = nullptr;
+    unsigned long m_bufferSize = 0; ///< bytes
 };

@@ -38,12 +38,12 @@ struct Latin1Text {
         }
         return out;
     }
-    static constexpr auto text = convert();
+    static constexpr auto kText = convert();
 };
 
 } // namespace latin1_detail
 
 template <latin1_detail::Utf8Literal literal>
 consteval const char* operator""_latin1() {
-    return latin1_detail::Latin1Text<literal>::text.data();
+    return latin1_detail::Latin1Text<literal>::kText.data();
 }

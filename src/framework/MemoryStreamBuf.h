@@ -9,7 +9,7 @@ class MemoryStreamBuf : public std::streambuf {
 public:
     MemoryStreamBuf(const char* bytes, unsigned long size) {
         // The get area is not const by its type alone; nothing here writes to it.
-        char* begin = const_cast<char*>(bytes); // NOLINT(cppcoreguidelines-pro-type-const-cast)
+        char* begin = const_cast<char*>(bytes);
         setg(begin, begin, begin + size);
     }
 };
