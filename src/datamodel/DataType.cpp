@@ -30,7 +30,7 @@ DataType& DataType::operator=(const DataType& other) {
 
 DataType& DataType::operator=(const char* text) {
     // Built aside, since `text` may lie in the content that is given up.
-    DataType value = DataTypeAccess::makeText(text != nullptr ? std::string_view(text) : std::string_view());
+    DataType value = DataTypeAccess::makeText(text != nullptr ? text : "");
     std::swap(m_content, value.m_content);
     std::swap(m_kind, value.m_kind);
     std::swap(m_longText, value.m_longText);

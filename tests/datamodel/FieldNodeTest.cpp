@@ -138,8 +138,8 @@ TEST_F(FieldNodeTest, TakesTheZeroDateWhereTheSchemaSaysSo) {
 
 TEST_F(FieldNodeTest, HoldsTextsAroundTheLimitOfTheirPlaces) {
     FieldNode& node = field("Text");
-    for (const std::size_t from : {0, 12, 13, 14, 15, 16, 17, 300}) {
-        for (const std::size_t to : {0, 1, 12, 13, 14, 15, 16, 17, 254, 255, 256, 70000}) {
+    for (const std::size_t from : {0U, 12U, 13U, 14U, 15U, 16U, 17U, 300U}) {
+        for (const std::size_t to : {0U, 1U, 12U, 13U, 14U, 15U, 16U, 17U, 254U, 255U, 256U, 70000U}) {
             ASSERT_TRUE(assign(&node, text(std::string(from, 'v'))));
             ASSERT_TRUE(assign(&node, text(std::string(to, 'n'))));
             EXPECT_EQ(node.text(), std::string(to, 'n')) << from << " to " << to;
@@ -172,7 +172,7 @@ TEST_F(FieldNodeTest, DoesNotShareWhatFitsIntoAValue) {
 }
 
 TEST_F(FieldNodeTest, TakesItsOwnValueAgain) {
-    for (const std::size_t length : {5, 13, 14, 16, 200}) {
+    for (const std::size_t length : {5U, 13U, 14U, 16U, 200U}) {
         FieldNode& node = field("Text");
         ASSERT_TRUE(assign(&node, text(std::string(length, 'q'))));
         EXPECT_TRUE(assign(&node, node.getValue()));

@@ -150,6 +150,12 @@ TEST_F(LazyRowsTest, AttachingNeedsAnEmptyTableAndASource) {
     m_table.append();
     EXPECT_THROW(m_table.attach(m_source, 1), std::invalid_argument);
     EXPECT_EQ(m_table.getNodeCount(), 1);
+    m_table.markStored();
+    ASSERT_TRUE(m_table.remove(m_table.row(1)));
+    EXPECT_THROW(m_table.attach(m_source, 1), std::invalid_argument) << "a store still has to hear of the row removed";
+    m_table.markStored();
+    m_table.attach(m_source, 1);
+    EXPECT_EQ(numberOf(1), 1);
 }
 
 TEST_F(LazyRowsTest, TheTableHoldsOnToItsSource) {

@@ -84,6 +84,16 @@ TEST_F(ModelObserverTest, TakenOffHearsNothing) {
     EXPECT_TRUE(m_listener.m_heard.empty());
 }
 
+TEST_F(ModelObserverTest, MayIgnoreWhatItDoesNotCareFor) {
+    ModelObserver indifferent;
+    m_model.setObserver(&indifferent);
+    auto& table = dynamic_cast<TableNode&>(*m_table);
+    while (table.getNodeCount() < TableNode::kMaxRows)
+        ASSERT_NE(table.append(), nullptr);
+    EXPECT_EQ(table.append(), nullptr);
+    EXPECT_FALSE(assign(table.getNodeNum(1)->getNode(NDX("Betrag")), text("x")));
+}
+
 TEST_F(ModelObserverTest, RowStaysWhenItsObserverThrows) {
     class Thrower : public ModelObserver {
         void rowAppended(const TableNode&, const RecordNode&) override { throw std::runtime_error("nicht heute"); }
