@@ -16,7 +16,7 @@ ImportRecordSetImpl::ImportRecordSetImpl() { m_rows.reserve(kReservedRows); }
 int ImportRecordSetImpl::getRowCount() const { return static_cast<int>(m_rows.size()) - (m_hasHeader ? 1 : 0); }
 
 std::string ImportRecordSetImpl::getString(int row, int column) const {
-    if (row < 0) // a negative number never reaches the header row
+    if (row < 0 || row >= getRowCount()) // no row number reaches the header row
         return {};
     const std::string* text = cell(m_hasHeader ? row + 1 : row, column);
     return text != nullptr ? *text : std::string();
