@@ -118,11 +118,9 @@ bool ImportExternData::create(std::string fileName) {
 }
 
 int ImportExternData::importFile(const ImportInputParams& params, char delimiter, ColumnAssignment* assignment) {
-    SmartDate::setupCenturyStart(params.m_targetNode);
-    if (params.m_fileName == nullptr)
-        return 0;
     try {
-        return importWithModule(params, delimiter, assignment);
+        SmartDate::setupCenturyStart(params.m_targetNode);
+        return params.m_fileName != nullptr ? importWithModule(params, delimiter, assignment) : 0;
     } catch (...) { // no exception crosses the library's boundary
         return 0;
     }
