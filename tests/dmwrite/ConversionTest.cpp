@@ -4,8 +4,8 @@
 #include <string>
 
 #include "dmwrite/Importer.h"
-#include "dmwrite/SmartDateFixture.h"
 #include "framework/datamodel_api/DataModelApi.h"
+#include "support/SmartDateFixture.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ImportModule authors
 // SPDX-License-Identifier: MIT
-#include "dmwrite/SmartDateFixture.h"
 #include "framework/datamodel_api/DMDate.h"
+#include "support/SmartDateFixture.h"
 
 namespace {
 

@@ -3,10 +3,10 @@
 #include <string>
 #include <type_traits>
 
-#include "dmwrite/SmartDateFixture.h"
 #include "framework/datamodel_api/DataModelApi.h"
 #include "support/CountingNode.h"
 #include "support/FinanceModel.h"
+#include "support/SmartDateFixture.h"
 
 namespace {
 
