@@ -94,8 +94,9 @@ Decoded decodeFirst(std::string_view text) {
             return kInvalid;
         character = (character << 6) | (byte & 0x3F);
     }
-    const bool isSurrogate = character >= 0xD800 && character <= 0xDFFF;
-    if (character < lead->least || character > 0x10FFFF || isSurrogate)
+    // Surrogates and what lies above the last character need no test: they have
+    // no byte, which refuses them as well.
+    if (character < lead->least)
         return kInvalid;
     return {character, lead->length};
 }

@@ -8,7 +8,7 @@
 #include "datamodel/TableNode.h"
 
 int NodeTable::create(unsigned short row) {
-    if (typeid(*this) != typeid(TableNode) || row == 0 || row - 1 != getNodeCount())
+    if (typeid(*this) != typeid(TableNode) || row != getNodeCount() + 1)
         return 0;
     return static_cast<TableNode*>(this)->append() != nullptr ? 1 : 0;
 }

@@ -148,6 +148,18 @@ TEST_F(FieldNodeTest, HoldsTextsAroundTheLimitOfTheirPlaces) {
     }
 }
 
+TEST_F(FieldNodeTest, KeepsTextsOfUpTo13BytesInside) {
+    FieldNode& node = field("Text");
+    const auto isInside = [&node] {
+        const auto* begin = reinterpret_cast<const char*>(&node);
+        return node.text().data() >= begin && node.text().data() < begin + sizeof node;
+    };
+    ASSERT_TRUE(assign(&node, text(std::string(13, 'x'))));
+    EXPECT_TRUE(isInside());
+    ASSERT_TRUE(assign(&node, text(std::string(14, 'x'))));
+    EXPECT_FALSE(isInside());
+}
+
 TEST_F(FieldNodeTest, SharesALongTextWithTheValueAssigned) {
     const std::string bytes(16, 'x');
     {
