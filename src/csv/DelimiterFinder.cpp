@@ -41,8 +41,8 @@ void DelimiterFinder::scanLine(const char* line) {
             ++m_firstLineCount[code];
     }
     if (m_sign < 0) {
-        // The balance runs over all pairs and is never reset: one pair may make
-        // up for another.
+        // The balance is never reset and does not need to be: it is 0 behind
+        // every pair, or the character is out for good.
         for (int code = 0; code < kCodes; ++code) {
             if (m_balance[code] != 0)
                 m_firstLineCount[code] = 0;

@@ -50,16 +50,19 @@ const char* ImportCSVBase<T>::getAssignedColumnNameForIndex(int fileColumn) cons
 template <typename T>
 int ImportCSVBase<T>::extractColumns(char* line) {
     m_row = T{};
-    const int limit = m_variableColumns ? kVariableColumnLimit : T::kColumns;
+    // A record takes no more fields than it has, whatever a module sets.
+    constexpr int kAnyWidthLimit = std::min(kVariableColumnLimit, T::kColumns);
+    const int limit = m_variableColumns ? kAnyWidthLimit : T::kColumns;
     int count = 0;
     char* at = line;
     for (;;) {
         char* const field = at;
-        bool quoted = false;
+        char* firstQuote = nullptr;
         bool insideQuotes = false;
         for (; *at != '\0'; ++at) {
             if (*at == '"') {
-                quoted = true;
+                if (firstQuote == nullptr)
+                    firstQuote = at;
                 insideQuotes = !insideQuotes;
             } else if (*at == m_delimiter && !insideQuotes) {
                 break;
@@ -67,7 +70,7 @@ int ImportCSVBase<T>::extractColumns(char* line) {
         }
         const bool endOfLine = *at == '\0';
         *at = '\0';
-        m_row.m_columns[count++] = quoted ? unquoteInPlace(field) : field;
+        m_row.m_columns[count++] = firstQuote != nullptr ? unquoteInPlace(firstQuote) : field;
         if (endOfLine)
             break;
         if (count == limit) {

@@ -4,8 +4,6 @@
 
 #include "framework/ImportModuleApi.h"
 
-#include "framework/ImportModuleApi.h"
-
 /// The fields of one line of a StarMoney export, in file order: pointers into
 /// the split line. Owns nothing.
 /// Exported, or the templates over it would not be. (The name is misspelt in hosts, too.)

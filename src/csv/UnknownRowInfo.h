@@ -4,8 +4,6 @@
 
 #include "framework/ImportModuleApi.h"
 
-#include "framework/ImportModuleApi.h"
-
 /// The fields of one line of unknown layout, in file order: pointers into the
 /// split line, null behind the last field. Owns nothing.
 /// Exported, or the templates over it would not be.

@@ -2,18 +2,12 @@
 // SPDX-License-Identifier: MIT
 #include "csv/unquoteInPlace.h"
 
-#include <cstring>
-
 #include "framework/AssertTypeSizes.h"
 
-char* unquoteInPlace(char* field) {
-    char* read = std::strchr(field, '"');
-    if (read == nullptr)
-        return field;
-    ++read;
-    char* const start = read;
-    char* write = read;
-    for (; *read != '\0'; ++read) {
+char* unquoteInPlace(char* firstQuote) {
+    char* const start = firstQuote + 1;
+    char* write = start;
+    for (const char* read = start; *read != '\0'; ++read) {
         if (*read == '"') {
             ++read;
             if (*read == '\0') // the closing quote

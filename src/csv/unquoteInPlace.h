@@ -2,9 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-/// Unquotes a zero-terminated field that holds a double quote: what stands
-/// before the first quote goes, then every quote goes and keeps the character
-/// behind it, whatever it is, so that a doubled quote leaves one:
+/// Unquotes a zero-terminated field from its first double quote on: what stands
+/// before that quote goes, then every quote goes and keeps the character behind
+/// it, whatever it is, so that a doubled quote leaves one:
 ///   "a""b" -> a"b    x"ab"c -> abc
 /// Returns the field's new start.
-char* unquoteInPlace(char* field);
+char* unquoteInPlace(char* firstQuote);
