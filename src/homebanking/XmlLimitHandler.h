@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+
+#include <QtCore/QHash>
+#include <QtCore/QSet>
+#include <QtXml/QXmlDefaultHandler>
+
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED // Qt 5.15 still builds its trees with the reader that it deprecates
+
+    /// Listens to the very reader that tree builders use, entities expanded, and
+    /// stops it at what a tree must not be built from.
+    class XmlLimitHandler : public QXmlDefaultHandler {
+public:
+    static constexpr int kDeepestLevel = 1000;
+    static constexpr int kMostAttributes = 1000;
+    static constexpr int kMostEntities = 1000;
+    static constexpr std::size_t kMostGroups = 1000;
+
+    /// `references`: how often the document refers to entities, at most;
+    /// `expansionLimit`: UTF-16 units that all of them together may stand for.
+    XmlLimitHandler(std::size_t references, std::size_t expansionLimit);
+
+    enum class Fault { none, tooDeep, tooManyAttributes, entities };
+    Fault fault() const { return m_fault; }
+
+    bool startElement(const QString& uri, const QString& localName, const QString& name,
+                      const QXmlAttributes& attributes) override;
+    bool endElement(const QString& uri, const QString& localName, const QString& name) override;
+    bool internalEntityDecl(const QString& name, const QString& value) override;
+
+private:
+    bool refuse(Fault fault);
+    std::size_t expandedSize(const QString& value);
+
+    std::size_t m_references;
+    std::size_t m_expansionLimit;
+    Fault m_fault = Fault::none;
+    int m_level = 0;
+    QHash<QString, std::size_t> m_entitySizes; ///< entities expanded
+    QSet<QString> m_awaited;                   ///< referred to before any declaration
+};
+
+QT_WARNING_POP
