@@ -4,8 +4,8 @@
 
 #include <algorithm>
 #include <array>
+#include <clocale>
 #include <cstdlib>
-#include <locale.h> // newlocale and strtod_l are not in the standard's header
 
 #include "framework/AssertTypeSizes.h"
 #include "framework/Latin1.h"
@@ -110,6 +110,13 @@ bool ImportModuleQIF::writeDataSet(const ImportDataSet& dataSet) {
 
 double ImportModuleQIF::qifCurrencytoDouble(std::string& text) {
     std::erase(text, ',');
-    static const locale_t plain = newlocale(LC_ALL_MASK, "C", nullptr);
-    return strtod_l(text.c_str(), nullptr, plain);
+    // The runtime expects the host's decimal mark, and a comma is no longer in the text.
+    std::string number;
+    for (const char c : text) {
+        if (c == '.')
+            number += std::localeconv()->decimal_point;
+        else
+            number += c;
+    }
+    return std::strtod(number.c_str(), nullptr);
 }

@@ -7,11 +7,11 @@
 
 #include <gtest/gtest.h>
 
-#include "dmwrite/SmartDate.h"
 #include "framework/ImportExternData.h"
 #include "framework/ImportInputParams.h"
 #include "support/FinanceModel.h"
 #include "support/ImportedRecord.h"
+#include "support/SmartDateFixture.h"
 #include "support/TemporaryFile.h"
 
 /// The two ways to a module: a host makes it itself and hands it a buffer, or
@@ -63,20 +63,10 @@ inline TextImportResult runFrontDoor(std::string_view bytes, const std::string& 
     return answersOf(door, result);
 }
 
-/// Runs an input both ways; every case starts and ends with the class-wide date
-/// state of a fresh program.
+/// Runs an input both ways.
 template <typename Module>
-class TextImport : public testing::TestWithParam<ImportWay> {
+class TextImport : public SmartDateFixture, public testing::WithParamInterface<ImportWay> {
 protected:
-    TextImport() { resetDates(); }
-    ~TextImport() override { resetDates(); }
-
-    static void resetDates() {
-        SmartDate::sm_order = 0;
-        SmartDate::m_useQIFSyntax = false;
-        SmartDate::sm_CenturyWindowStart = 30;
-    }
-
     TextImportResult import(std::string_view bytes, const FinanceModel& into) const { return run(bytes, into, false); }
     TextImportResult preview(std::string_view bytes) const { return run(bytes, FinanceModel(), true); }
 
