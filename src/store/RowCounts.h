@@ -14,7 +14,7 @@ class RowCounts {
 public:
     explicit RowCounts(SqliteConnection& connection);
 
-    /// `owner`: 0 for a table of the root.
+    /// `owner` is ignored where the table has none; its key is 0 then.
     std::int64_t get(const TableLayout& table, std::int64_t owner);
     void set(const TableLayout& table, std::int64_t owner, std::int64_t count);
     void remove(const TableLayout& table, std::int64_t owner);

@@ -6,7 +6,6 @@
 #include <cerrno>
 #include <cstring>
 #include <new>
-#include <optional>
 #include <utility>
 
 #include "store/LockHolder.h"
@@ -16,52 +15,59 @@
 namespace {
 
 struct ResultMeaning {
-    int resultCode;
+    int resultCode; // primary
     StoreErrorCode code;
 };
 
-constexpr ResultMeaning kPrimaryResults[] = {
+constexpr ResultMeaning kResults[] = {
     {SQLITE_BUSY, StoreErrorCode::busy},          {SQLITE_LOCKED, StoreErrorCode::busy},
     {SQLITE_READONLY, StoreErrorCode::readOnly},  {SQLITE_PERM, StoreErrorCode::noPermission},
     {SQLITE_AUTH, StoreErrorCode::noPermission},  {SQLITE_FULL, StoreErrorCode::full},
     {SQLITE_CORRUPT, StoreErrorCode::damaged},    {SQLITE_NOTADB, StoreErrorCode::damaged},
     {SQLITE_ERROR, StoreErrorCode::damaged}, // a table or column that the version promises is not there
     {SQLITE_CONSTRAINT, StoreErrorCode::damaged}, {SQLITE_MISMATCH, StoreErrorCode::damaged},
-    {SQLITE_IOERR, StoreErrorCode::io},           {SQLITE_CANTOPEN, StoreErrorCode::io},
 };
 
+// Where SQLite only knows that a call failed, what the system said decides.
 struct SystemMeaning {
+    int resultCode;
     int error;
     StoreErrorCode code;
 };
 
-// What the system said decides where SQLite only knows that a call failed.
 constexpr SystemMeaning kSystemErrors[] = {
-    {ENOSPC, StoreErrorCode::full},        {EDQUOT, StoreErrorCode::full},    {EFBIG, StoreErrorCode::full},
-    {EROFS, StoreErrorCode::readOnly},     {ENOENT, StoreErrorCode::missing}, {EACCES, StoreErrorCode::noPermission},
-    {EPERM, StoreErrorCode::noPermission},
+    {SQLITE_IOERR, ENOSPC, StoreErrorCode::full},
+    {SQLITE_IOERR, EDQUOT, StoreErrorCode::full},
+    {SQLITE_IOERR, EFBIG, StoreErrorCode::full},
+    {SQLITE_CANTOPEN, ENOSPC, StoreErrorCode::full},
+    {SQLITE_CANTOPEN, EDQUOT, StoreErrorCode::full},
+    {SQLITE_CANTOPEN, EROFS, StoreErrorCode::readOnly},
+    {SQLITE_CANTOPEN, EACCES, StoreErrorCode::noPermission},
+    {SQLITE_CANTOPEN, EPERM, StoreErrorCode::noPermission},
+    {SQLITE_CANTOPEN, ENOENT, StoreErrorCode::missing},
 };
 
 StoreErrorCode meaningOf(int resultCode, int systemError) {
-    const auto* primary = std::find_if(std::begin(kPrimaryResults), std::end(kPrimaryResults),
-                                       [resultCode](auto entry) { return entry.resultCode == (resultCode & 0xFF); });
-    const StoreErrorCode code = primary != std::end(kPrimaryResults) ? primary->code : StoreErrorCode::io;
-    if (code != StoreErrorCode::io)
-        return code;
-    const auto* system = std::find_if(std::begin(kSystemErrors), std::end(kSystemErrors),
-                                      [systemError](auto entry) { return entry.error == systemError; });
-    return system != std::end(kSystemErrors) ? system->code : code;
+    if (resultCode == SQLITE_READONLY_DBMOVED) // the path leads elsewhere or nowhere by now
+        return StoreErrorCode::missing;
+    const int primary = resultCode & 0xFF;
+    for (const ResultMeaning& meaning : kResults) {
+        if (meaning.resultCode == primary)
+            return meaning.code;
+    }
+    for (const SystemMeaning& meaning : kSystemErrors) {
+        if (meaning.resultCode == primary && meaning.error == systemError)
+            return meaning.code;
+    }
+    return StoreErrorCode::io;
 }
 
 } // namespace
 
 SqliteConnection::SqliteConnection(StorePath path, std::chrono::milliseconds patience) : m_path(std::move(path)) {
-    // Absolute paths only, which SQLite takes as they are: neither ":memory:"
-    // nor "file:..." nor "?" and "%" have a meaning in them.
+    // The path is absolute, and SQLite takes it as it is: neither ":memory:" nor
+    // "file:..." nor "?" and "%" have a meaning in it.
     const std::string& name = m_path.real.native();
-    const sqlite3_vfs* system = sqlite3_vfs_find(nullptr);
-    if (system != nullptr && name.size() + std::strlen("-journal") >= static_cast<std::size_t>(system->mxPathname))
-        throw StoreError(StoreErrorCode::pathTooLong, m_path.given);
     sqlite3* handle = nullptr;
     const int result = sqlite3_open_v2(name.c_str(), &handle,
                                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX | SQLITE_OPEN_EXRESCODE, nullptr);
@@ -90,6 +96,13 @@ std::int64_t SqliteConnection::number(const char* sql) {
     return statement.step() ? statement.integer(0) : 0;
 }
 
+std::size_t SqliteConnection::longestPath() {
+    sqlite3_initialize();
+    const sqlite3_vfs* system = sqlite3_vfs_find(nullptr);
+    // The path is kept with a zero byte, and that of the journal beside it.
+    return system != nullptr ? static_cast<std::size_t>(system->mxPathname) - std::strlen("-journal") - 1 : 0;
+}
+
 bool SqliteConnection::isReadOnly() const { return sqlite3_db_readonly(handle(), "main") == 1; }
 
 bool SqliteConnection::hasMoved() const {
@@ -98,26 +111,43 @@ bool SqliteConnection::hasMoved() const {
     return moved != 0;
 }
 
-std::string SqliteConnection::head(std::size_t size) const {
-    // Through SQLite's own descriptor: closing one of ours would give up the
-    // locks that this process has on the file.
+sqlite3_file& SqliteConnection::file() const {
     sqlite3_file* file = nullptr;
-    sqlite3_int64 available = 0;
     sqlite3_file_control(handle(), "main", SQLITE_FCNTL_FILE_POINTER, &file);
-    int result =
-        file != nullptr && file->pMethods != nullptr ? file->pMethods->xFileSize(file, &available) : SQLITE_IOERR;
-    std::string bytes(std::min(size, static_cast<std::size_t>(available)), '\0');
-    if (result == SQLITE_OK && !bytes.empty())
-        result = file->pMethods->xRead(file, bytes.data(), static_cast<int>(bytes.size()), 0);
+    if (file == nullptr || file->pMethods == nullptr)
+        fail(SQLITE_CANTOPEN);
+    return *file;
+}
+
+std::int64_t SqliteConnection::fileSize() const {
+    sqlite3_int64 size = 0;
+    const int result = file().pMethods->xFileSize(&file(), &size);
+    if (result != SQLITE_OK)
+        fail(result);
+    return size;
+}
+
+std::string SqliteConnection::head(std::size_t size) const {
+    std::string bytes(std::min(size, static_cast<std::size_t>(fileSize())), '\0');
+    const int result =
+        bytes.empty() ? SQLITE_OK : file().pMethods->xRead(&file(), bytes.data(), static_cast<int>(bytes.size()), 0);
     if (result != SQLITE_OK && result != SQLITE_IOERR_SHORT_READ)
         fail(result);
     return bytes;
 }
 
+bool SqliteConnection::hasWholePages() {
+    const std::int64_t pageSize = number("PRAGMA page_size");
+    return pageSize > 0 && fileSize() % pageSize == 0;
+}
+
 void SqliteConnection::fail(int resultCode) const {
+    // SQLite does not keep the system's reason when a COMMIT fails.
+    const int lastError = errno;
+    const int kept = sqlite3_system_errno(handle());
+    const int systemError = kept != 0 ? kept : lastError;
     if (resultCode == SQLITE_NOMEM)
         throw std::bad_alloc();
-    const int systemError = sqlite3_system_errno(handle());
     const StoreErrorCode code = meaningOf(resultCode, systemError);
     std::string detail = sqlite3_errstr(resultCode);
     if (code == StoreErrorCode::busy)

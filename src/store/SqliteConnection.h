@@ -38,6 +38,12 @@ public:
     bool hasMoved() const;
     /// The first bytes of the file, fewer when it is shorter. Read past all locks.
     std::string head(std::size_t size) const;
+    /// Whether the file ends where a page does. SQLite takes a cut last page
+    /// for one that ends in zeros.
+    bool hasWholePages();
+
+    /// The longest absolute path that SQLite takes, in bytes.
+    static std::size_t longestPath();
 
     /// Throws what the result code of a failed call means.
     [[noreturn]] void fail(int resultCode) const;
@@ -47,6 +53,11 @@ private:
     struct Close {
         void operator()(sqlite3* handle) const { sqlite3_close(handle); }
     };
+
+    // SQLite's own descriptor: closing one of ours would give up the locks that
+    // this process has on the file.
+    sqlite3_file& file() const;
+    std::int64_t fileSize() const;
 
     StorePath m_path;
     std::unique_ptr<sqlite3, Close> m_handle;

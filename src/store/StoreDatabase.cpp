@@ -11,6 +11,12 @@
 #include "store/StoreError.h"
 #include "store/StoreHeader.h"
 
+namespace {
+
+constexpr char kCutOff[] = "die Datei ist abgeschnitten";
+
+} // namespace
+
 StoreDatabase::StoreDatabase(const std::filesystem::path& path, StoreAccess access, std::chrono::milliseconds patience,
                              std::span<const StoreMigration> migrations)
     : m_access(access), m_migrations(migrations) {
@@ -22,14 +28,16 @@ StoreDatabase::StoreDatabase(const std::filesystem::path& path, StoreAccess acce
         try {
             open(path, patience);
             begin();
-        } catch (...) {
+            if (!m_connection->hasMoved())
+                return;
+            if (attempt == kAttempts)
+                throw StoreError(StoreErrorCode::missing, path);
+        } catch (const StoreError&) {
+            const bool moved = m_connection != nullptr && m_connection->hasMoved();
             discardIfEmpty();
-            throw;
+            if (!moved || attempt == kAttempts)
+                throw;
         }
-        if (!m_connection->hasMoved())
-            return;
-        if (attempt == kAttempts)
-            throw StoreError(StoreErrorCode::missing, path);
     }
 }
 
@@ -39,6 +47,8 @@ void StoreDatabase::open(const std::filesystem::path& path, std::chrono::millise
     m_connection.reset();
     m_dataVersion.reset();
     StorePath place = StorePath::locate(path, m_access);
+    if (place.real.native().size() > SqliteConnection::longestPath())
+        throw StoreError(StoreErrorCode::pathTooLong, path);
     m_created = !place.exists && place.create();
     m_connection = std::make_unique<SqliteConnection>(std::move(place), patience);
     refuseForeign();
@@ -61,10 +71,13 @@ void StoreDatabase::refuseForeign() const {
     std::error_code ignored;
     const StoreHeader header =
         StoreHeader::judge(m_connection->head(StoreHeader::kSize), std::filesystem::exists(journal, ignored));
-    if (header.kind == StoreHeader::Kind::foreign)
+    // SQLite calls a file of one byte empty; it is somebody else's all the same.
+    const bool isOneByte =
+        header.kind == StoreHeader::Kind::empty && std::filesystem::file_size(path.real, ignored) == 1;
+    if (header.kind == StoreHeader::Kind::foreign || isOneByte)
         throw StoreError(StoreErrorCode::notAStore, path.given);
     if (header.kind == StoreHeader::Kind::cutOff)
-        m_connection->failDamaged("die Datei ist abgeschnitten");
+        m_connection->failDamaged(kCutOff);
     if (header.version > newestVersion())
         throw StoreError(StoreErrorCode::newerVersion, path.given,
                          "Stand " + std::to_string(header.version) + ", bekannt ist Stand " +
@@ -103,6 +116,8 @@ void StoreDatabase::settleVersion() {
         throw StoreError(StoreErrorCode::notAStore, m_connection->path().given);
     if (version > newestVersion())
         refuseForeign();
+    if (!m_connection->hasWholePages() && !StoreHeader::usesWriteAheadLog(m_connection->head(StoreHeader::kSize)))
+        m_connection->failDamaged(kCutOff);
     const bool isEmpty = applicationId == 0;
     m_hasTables = !isEmpty || m_access == StoreAccess::readWrite;
     if (version == newestVersion() || !m_hasTables)
@@ -134,11 +149,7 @@ bool StoreDatabase::canBeWritten() const {
     return !m_connection->isReadOnly() && faccessat(AT_FDCWD, directory.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }
 
-void StoreDatabase::commit() {
-    if (m_connection->hasMoved())
-        throw StoreError(StoreErrorCode::missing, m_connection->path().given);
-    m_connection->execute("COMMIT");
-}
+void StoreDatabase::commit() { m_connection->execute("COMMIT"); }
 
 void StoreDatabase::rollback() noexcept {
     // Fails only where SQLite has rolled back already.

@@ -54,3 +54,7 @@ StoreHeader StoreHeader::judge(std::string_view head, bool hasJournal) {
         header.version = static_cast<std::int32_t>(number(head, kUserVersion, 4));
     return header;
 }
+
+bool StoreHeader::usesWriteAheadLog(std::string_view head) {
+    return head.size() > kWriteVersion && number(head, kWriteVersion, 1) != 1;
+}

@@ -23,4 +23,6 @@ struct StoreHeader {
 
     /// `head`: the first `kSize` bytes, fewer only when the file is shorter.
     static StoreHeader judge(std::string_view head, bool hasJournal);
+    /// Whether a file with that head has a write-ahead log, in which its last pages may still be.
+    static bool usesWriteAheadLog(std::string_view head);
 };
