@@ -44,7 +44,7 @@ if ((${#missing[@]} == 0)); then
     exit 0
 fi
 
-if ((EUID == 0)); then
+if [[ $(id -u) == 0 ]]; then
     as_root=()
 elif command -v sudo >/dev/null; then
     as_root=(sudo)
