@@ -1,0 +1,68 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "intake/StarMoneyLayout.h"
+
+#include "intake/BookingRow.h"
+#include "intake/LibraryReading.h"
+#include "intake/TextTools.h"
+
+namespace {
+
+constexpr int kColumns = 21;
+constexpr int kDate = 0;
+constexpr int kAmount = 2;
+constexpr int kFirstPurpose = 4;
+constexpr int kLastPurpose = 17;
+
+} // namespace
+
+namespace StarMoneyLayout {
+
+bool isReadRight(const DelimitedFile& file, int centuryWindow) {
+    const RecordTable& table = file.table;
+    if (file.plan.tables.size() != 1 || file.plan.delimiter != '|')
+        return false;
+    const TablePlan& plan = file.plan.tables.front();
+    if (plan.region.header != std::size_t{0} || plan.sign != SignRule::asWritten || plan.roles.date != kDate ||
+        plan.roles.amount != kAmount || TextTools::fold(table.cell(0, kFirstPurpose)) != "vwz1")
+        return false;
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        const auto& record = table.record(i);
+        if (record.blank && record.cellCount == 1)
+            continue;
+        if (record.cellCount != kColumns || record.lineCount != 1)
+            return false;
+        if (i == 0)
+            continue;
+        const BookingRow row = BookingRows::read(table, i, plan, centuryWindow);
+        if (row.kind != BookingRow::Kind::booking ||
+            !LibraryReading::readsDate(TextTools::trim(table.cell(i, kDate)), *row.day, centuryWindow) ||
+            !LibraryReading::readsAmount(table.cell(i, kAmount), *row.amount))
+            return false;
+    }
+    return true;
+}
+
+void prepareFixed(const PhysicalLines& physical, PreparedFile& prepared) {
+    prepared.delimiter = '|';
+    bool header = true;
+    for (std::size_t i = 0; i < physical.lines.size(); ++i) {
+        const bool blank = TextTools::trim(physical.lines[i]).empty();
+        prepared.text += physical.lines[i];
+        if (i + 1 < physical.lines.size() || physical.endsWithNewline)
+            prepared.text += '\n';
+        prepared.lines.push_back(blank ? LineUse::blank : (header ? LineUse::header : LineUse::record));
+        header = header && blank;
+    }
+}
+
+std::map<std::string, std::vector<int>> columns() {
+    std::map<std::string, std::vector<int>> fields = {{"Datum", {0}},      {"Empfaenger", {1}},
+                                                      {"Betrag", {2}},     {"Buchungstext", {18}},
+                                                      {"Kategorie", {19}}, {"Unterkategorie", {20}}};
+    for (int column = kFirstPurpose; column <= kLastPurpose; ++column)
+        fields["Verwendungszweck"].push_back(column);
+    return fields;
+}
+
+} // namespace StarMoneyLayout

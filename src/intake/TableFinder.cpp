@@ -1,0 +1,135 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "intake/TableFinder.h"
+
+#include <algorithm>
+#include <string_view>
+
+#include "intake/Dates.h"
+#include "intake/Money.h"
+#include "intake/TextTools.h"
+
+namespace {
+
+bool isDate(std::string_view cell) {
+    const auto date = DateCells::read(cell);
+    return date && date->form != DateCell::Form::dayMonth;
+}
+
+bool isAmount(std::string_view cell) {
+    return AmountCells::read(cell, ',').has_value() || AmountCells::read(cell, '.').has_value();
+}
+
+int filledCells(const RecordTable& table, std::size_t record) {
+    const auto cells = table.cells(record);
+    return static_cast<int>(
+        std::count_if(cells.begin(), cells.end(), [](auto cell) { return !TextTools::trim(cell).empty(); }));
+}
+
+/// Whether names of columns could stand here: words, no values.
+bool holdsNoValues(const RecordTable& table, std::size_t record) {
+    const auto cells = table.cells(record);
+    return std::none_of(cells.begin(), cells.end(), [](auto cell) {
+        const auto text = TextTools::trim(cell);
+        return !text.empty() && (isDate(text) || isAmount(text));
+    });
+}
+
+/// A header names a date and an amount, each in a column of its own.
+bool namesABooking(const RecordTable& table, std::size_t record, const ColumnLexicon& lexicon) {
+    bool date = false;
+    bool money = false;
+    for (const std::string_view cell : table.cells(record)) {
+        if (cell.size() > 60)
+            return false; // a sentence, no name
+        const RoleScores scores = lexicon.scores(cell);
+        const Role best = scores.best();
+        if (scores.of(best) == 0)
+            continue;
+        date = date || best == Role::date;
+        money = money || best == Role::amount || best == Role::debit || best == Role::credit ||
+                (best == Role::sign && scores.of(Role::amount) > 0);
+    }
+    return date && money;
+}
+
+bool sameCells(const RecordTable& table, std::size_t a, std::size_t b) {
+    const auto left = table.cells(a);
+    const auto right = table.cells(b);
+    return std::equal(left.begin(), left.end(), right.begin(), right.end());
+}
+
+/// Above the first booking and of its width: the header of a bank whose words nobody taught us.
+std::optional<std::size_t> unknownHeader(const RecordTable& table, std::size_t firstBooking) {
+    for (std::size_t i = firstBooking; i-- > 0;) {
+        if (table.record(i).blank)
+            continue;
+        const int filled = filledCells(table, i);
+        const int width = table.record(firstBooking).cellCount;
+        const bool sameWidth = table.record(i).cellCount >= width - 1 && table.record(i).cellCount <= width + 1;
+        return filled >= 3 && filled * 3 >= width * 2 && sameWidth && holdsNoValues(table, i) ? std::optional(i)
+                                                                                              : std::nullopt;
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+namespace TableFinder {
+
+bool looksLikeBooking(const RecordTable& table, std::size_t record) {
+    bool date = false;
+    bool amount = false;
+    for (const std::string_view cell : table.cells(record)) {
+        if (!date && isDate(cell))
+            date = true;
+        else if (isAmount(cell))
+            amount = true;
+        if (date && amount)
+            return true;
+    }
+    return false;
+}
+
+std::vector<TableRegion> find(const RecordTable& table, const ColumnLexicon& lexicon, std::optional<bool> header) {
+    std::vector<TableRegion> regions;
+    if (header.value_or(true)) {
+        for (std::size_t i = 0; i < table.size(); ++i) {
+            if (table.record(i).blank || table.record(i).cellCount < 2 || !holdsNoValues(table, i) ||
+                !namesABooking(table, i, lexicon))
+                continue;
+            if (!regions.empty() && sameCells(table, *regions.back().header, i)) {
+                regions.back().repeatedHeaders.push_back(i); // a page break of a printed statement
+                continue;
+            }
+            if (!regions.empty())
+                regions.back().end = i;
+            TableRegion region;
+            region.header = i;
+            region.namesKnown = true;
+            region.begin = i + 1;
+            regions.push_back(region);
+        }
+        if (!regions.empty()) {
+            regions.back().end = table.size();
+            return regions;
+        }
+    }
+
+    std::size_t first = 0;
+    while (first < table.size() && !looksLikeBooking(table, first))
+        ++first;
+    if (first == table.size())
+        return regions;
+    TableRegion region;
+    region.begin = first;
+    region.end = table.size();
+    if (header.value_or(true))
+        region.header = unknownHeader(table, first);
+    if (header == true && !region.header && first > 0)
+        region.header = first - 1;
+    regions.push_back(region);
+    return regions;
+}
+
+} // namespace TableFinder

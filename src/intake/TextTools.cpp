@@ -1,0 +1,75 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "intake/TextTools.h"
+
+#include <array>
+
+#include "intake/Windows1252.h"
+
+namespace {
+
+// Bytes 0xC0 to 0xFF as ASCII letters; null for the two mathematical signs.
+constexpr std::array<const char*, 64> kLetters = {
+    "a", "a", "a", "a", "ae", "a", "ae", "c", "e", "e", "e", "e", "i",  "i", "i",  "i",
+    "d", "n", "o", "o", "o",  "o", "oe", "",  "o", "u", "u", "u", "ue", "y", "th", "ss",
+    "a", "a", "a", "a", "ae", "a", "ae", "c", "e", "e", "e", "e", "i",  "i", "i",  "i",
+    "d", "n", "o", "o", "o",  "o", "oe", "",  "o", "u", "u", "u", "ue", "y", "th", "y",
+};
+
+} // namespace
+
+namespace TextTools {
+
+std::string_view trim(std::string_view text) {
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+std::string fold(std::string_view text) {
+    std::string out;
+    bool gap = false;
+    const auto append = [&](const char* letters) {
+        if (gap && !out.empty())
+            out += ' ';
+        gap = false;
+        out += letters;
+    };
+    for (const char c : text) {
+        const auto code = static_cast<unsigned char>(c);
+        char one[2] = {c, '\0'};
+        if (c >= 'A' && c <= 'Z') {
+            one[0] = static_cast<char>(c - 'A' + 'a');
+            append(one);
+        } else if ((c >= 'a' && c <= 'z') || isDigit(c)) {
+            append(one);
+        } else if (code >= 0xC0 && kLetters[code - 0xC0U][0] != '\0') {
+            append(kLetters[code - 0xC0U]);
+        } else {
+            gap = true;
+        }
+    }
+    return out;
+}
+
+std::string toUtf8(std::string_view hostText) {
+    std::string out;
+    for (const char byte : hostText) {
+        const char32_t c = Windows1252::characterOf(byte);
+        if (c < 0x80) {
+            out += static_cast<char>(c);
+        } else if (c < 0x800) {
+            out += static_cast<char>(0xC0U | c >> 6U);
+            out += static_cast<char>(0x80U | (c & 0x3FU));
+        } else {
+            out += static_cast<char>(0xE0U | c >> 12U);
+            out += static_cast<char>(0x80U | (c >> 6U & 0x3FU));
+            out += static_cast<char>(0x80U | (c & 0x3FU));
+        }
+    }
+    return out;
+}
+
+} // namespace TextTools
