@@ -1,0 +1,18 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "cli/CommandTable.h"
+
+#include "cli/commands/Commands.h"
+
+namespace {
+
+const Command* const kCommands[] = {
+    &kFormatsCommand,
+    &kPreviewCommand,
+    &kImportCommand,
+    &kShowCommand,
+};
+
+} // namespace
+
+std::span<const Command* const> CommandTable::all() { return kCommands; }

@@ -1,0 +1,47 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <string>
+
+#include "cli/Console.h"
+#include "cli/FileReading.h"
+#include "cli/FileReport.h"
+#include "cli/ModelWatch.h"
+#include "cli/NewRecords.h"
+#include "cli/StoreAtPath.h"
+
+/// What the person wants of an import beside the reading of the file.
+struct ImportWishes {
+    std::string info; ///< kept with the session; host bytes
+    bool allowUndated = false;
+    bool keepPartial = false;
+};
+
+/// The import of one file into a store: one transaction, which a failure takes
+/// back unless the person wants to keep what was written before it.
+class FileImport {
+public:
+    /// Both must outlive the object.
+    FileImport(const FileReading& reading, const ImportWishes& wishes);
+
+    /// Throws StoreError; `report` then says how far it came.
+    void run(StoreAtPath& store, const Console& console);
+    const FileReport& report() const { return m_report; }
+
+private:
+    bool mayImport();
+    void askForWords();
+    void importInto(DataManager& model, const Console& console);
+    void judge(const RunOutcome& outcome, const ModelWatch& watch, const NewRecords& added);
+    void judgeColumns(const NewRecords& added);
+    void noteUndated(const ModelWatch& watch, const NewRecords& added);
+    void countLines();
+    void countRecords(const ModelWatch& watch);
+    void fail(Message message);
+
+    const FileReading& m_reading;
+    const ImportWishes& m_wishes;
+    FileReport m_report;
+    bool m_failed = false; ///< the file as a whole, not single records of it
+};

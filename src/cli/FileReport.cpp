@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "cli/FileReport.h"
+
+#include <algorithm>
+
+#include "cli/SafeText.h"
+
+namespace {
+
+Json json(const LineCounts& lines) {
+    return {{"read", lines.read},         {"records", lines.records}, {"header", lines.header},
+            {"preamble", lines.preamble}, {"footer", lines.footer},   {"blank", lines.blank},
+            {"ignored", lines.ignored}};
+}
+
+std::string counted(std::size_t count, const char* one, const char* many) {
+    return std::to_string(count) + " " + (count == 1 ? one : many);
+}
+
+} // namespace
+
+bool FileReport::isClean() const {
+    return std::none_of(messages.begin(), messages.end(),
+                        [](const Message& message) { return message.texts().severity == Severity::error; });
+}
+
+namespace FileReportText {
+
+Json json(const std::vector<Message>& messages) {
+    Json list = Json::array();
+    for (const Message& message : messages) {
+        list.push_back({{"line", message.line ? Json(*message.line) : Json(nullptr)},
+                        {"code", message.texts().code},
+                        {"text", message.fullText()}});
+    }
+    return list;
+}
+
+Json json(const FileReport& report) {
+    Json object = {{"file", report.file},
+                   {"format", report.format},
+                   {"result", report.result},
+                   {"importedCount", report.importedCount},
+                   {"refusedCount", report.refusedCount},
+                   {"undatedCount", report.undatedCount},
+                   {"sessionId", report.sessionId},
+                   {"errorText", report.errorText},
+                   {"committed", report.committed},
+                   {"lines", ::json(report.lines)}};
+    if (report.records) {
+        object["records"] = {{"found", report.records->found},
+                             {"imported", report.records->imported},
+                             {"refused", report.records->refused}};
+    }
+    object["messages"] = json(report.messages);
+    return object;
+}
+
+std::string summary(const FileReport& report) {
+    std::string text = SafeText::printable(report.file) + ": ";
+    if (!report.committed)
+        return text + "nicht übernommen; der Bestand ist unverändert.";
+    text += counted(static_cast<std::size_t>(report.importedCount), "Datensatz", "Datensätze") + " importiert";
+    if (report.refusedCount != 0)
+        text += ", " + counted(report.refusedCount, "abgelehnt", "abgelehnt");
+    if (report.undatedCount != 0)
+        text += ", davon " + std::to_string(report.undatedCount) + " ohne Datum";
+    if (report.sessionId != 0)
+        text += " (Sitzung " + std::to_string(report.sessionId) + ")";
+    return text + ".";
+}
+
+} // namespace FileReportText

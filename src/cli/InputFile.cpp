@@ -1,0 +1,139 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "cli/InputFile.h"
+
+#include <array>
+#include <cerrno>
+#include <cstddef>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+#include "cli/FormatTable.h"
+#include "cli/SystemText.h"
+#include "datamodel/HostText.h"
+
+namespace {
+
+constexpr const char* kStandardInput = "-";
+
+/// An open file, closed in the end.
+class Descriptor {
+public:
+    explicit Descriptor(int number) : m_number(number) {}
+    ~Descriptor() {
+        if (m_number > STDERR_FILENO)
+            ::close(m_number);
+    }
+    Descriptor(const Descriptor&) = delete;
+    Descriptor& operator=(const Descriptor&) = delete;
+
+    int number() const { return m_number; }
+    bool isOpen() const { return m_number >= 0; }
+
+private:
+    int m_number;
+};
+
+int openForReading(const std::string& path) { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC); }
+
+bool writeAll(int target, const char* bytes, std::size_t size) {
+    while (size > 0) {
+        const ssize_t written = ::write(target, bytes, size);
+        if (written < 0 && errno == EINTR)
+            continue;
+        if (written < 0)
+            return false;
+        bytes += written;
+        size -= static_cast<std::size_t>(written);
+    }
+    return true;
+}
+
+Problem problemOf(int error) { return error == ENOENT ? Problem::fileMissing : Problem::fileUnreadable; }
+
+} // namespace
+
+InputFile::InputFile(const std::string& argument) : m_argument(argument), m_path(argument) {
+    try {
+        look();
+    } catch (const std::system_error& error) {
+        m_problem = Message::of(Problem::tempUnusable, {TemporaryFolder::parent(), systemText(error.code().value())});
+    }
+}
+
+void InputFile::look() {
+    if (m_argument == kStandardInput) {
+        copy(STDIN_FILENO);
+        return;
+    }
+    struct stat status {};
+    if (::stat(m_path.c_str(), &status) != 0) {
+        m_problem = Message::of(problemOf(errno), {m_argument, systemText(errno)});
+        m_mayBeAsked = true;
+        return;
+    }
+    if (S_ISDIR(status.st_mode)) {
+        m_problem = Message::of(Problem::fileIsDirectory, {m_argument});
+        m_mayBeAsked = true;
+        return;
+    }
+    if (!S_ISREG(status.st_mode) && !S_ISFIFO(status.st_mode)) {
+        m_problem = Message::of(Problem::fileIsDevice, {m_argument}); // may well have no end
+        return;
+    }
+    const Descriptor source(openForReading(m_path));
+    if (!source.isOpen()) {
+        m_problem = Message::of(problemOf(errno), {m_argument, systemText(errno)});
+        m_mayBeAsked = S_ISREG(status.st_mode);
+        return;
+    }
+    if (S_ISFIFO(status.st_mode))
+        copy(source.number());
+    else
+        m_mayBeAsked = true;
+}
+
+void InputFile::copy(int source) {
+    const std::string path = folder().entry("copy");
+    const Descriptor target(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
+    if (!target.isOpen())
+        throw std::system_error(errno, std::generic_category());
+    std::array<char, 1 << 16> block;
+    for (;;) {
+        const ssize_t count = ::read(source, block.data(), block.size());
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count < 0) {
+            m_problem = Message::of(Problem::fileUnreadable, {m_argument, systemText(errno)});
+            return;
+        }
+        if (count == 0)
+            break;
+        if (!writeAll(target.number(), block.data(), static_cast<std::size_t>(count)))
+            throw std::system_error(errno, std::generic_category());
+    }
+    m_path = path;
+    m_mayBeAsked = true;
+}
+
+TemporaryFolder& InputFile::folder() {
+    if (m_folder == nullptr)
+        m_folder = std::make_unique<TemporaryFolder>();
+    return *m_folder;
+}
+
+Import::E_SupportedImportFormats InputFile::formatByName() const { return FormatTable::ofFileName(m_argument); }
+
+std::string InputFile::libraryName(Import::E_SupportedImportFormats format) {
+    const std::optional<std::string> name = HostText::utf8ToLatin1(m_path);
+    if (name && FormatTable::ofFileName(*name) == format)
+        return *name;
+    const std::string link = folder().entry("import." + FormatTable::extensionOf(format));
+    const std::string target = std::filesystem::absolute(m_path).string();
+    if (::symlink(target.c_str(), link.c_str()) != 0 && errno != EEXIST)
+        throw std::system_error(errno, std::generic_category());
+    return *HostText::utf8ToLatin1(link);
+}

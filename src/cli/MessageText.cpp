@@ -1,0 +1,77 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "cli/MessageText.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <set>
+
+#include "cli/Color.h"
+#include "cli/SafeText.h"
+#include "cli/TextWidth.h"
+
+namespace {
+
+constexpr std::size_t kMostExcerpt = 160; // columns
+constexpr const char* kIndent = "    ";
+
+std::string label(Severity severity, bool color) {
+    return severity == Severity::error ? colored("Fehler:", Color::red, color)
+                                       : colored("Achtung:", Color::yellow, color);
+}
+
+bool continues(const Message& first, const Message& last, const Message& next) {
+    return first.problem == next.problem && first.text == next.text && last.line && next.line &&
+           *next.line == *last.line + 1;
+}
+
+/// Where the message is: "name", "name:7" or "name:7-12".
+std::string place(std::string_view file, const Message& first, const Message& last) {
+    std::string text = SafeText::printable(file);
+    if (first.line)
+        text += ":" + std::to_string(*first.line);
+    if (first.line && last.line && *last.line != *first.line)
+        text += "-" + std::to_string(*last.line);
+    return text;
+}
+
+/// The line, and below it a mark under the bytes that are meant.
+std::string excerpt(const Message& message, bool color) {
+    const std::string line = SafeText::printable(message.excerpt);
+    std::string text = kIndent + TextWidth::fitted(line, kMostExcerpt) + "\n";
+    const std::string_view bytes = message.excerpt;
+    const std::size_t before = TextWidth::of(SafeText::printable(bytes.substr(0, message.markFirst)));
+    const std::size_t marked = TextWidth::of(SafeText::printable(bytes.substr(message.markFirst, message.markLength)));
+    if (marked != 0 && before + marked < kMostExcerpt)
+        text += kIndent + std::string(before, ' ') + colored(std::string(marked, '^'), Color::red, color) + "\n";
+    return text;
+}
+
+} // namespace
+
+namespace MessageText {
+
+std::string render(std::string_view file, const std::vector<Message>& messages, bool color) {
+    std::string text;
+    std::set<Problem> hinted;
+    for (auto at = messages.begin(); at != messages.end();) {
+        auto end = at + 1;
+        while (end != messages.end() && continues(*at, *(end - 1), *end))
+            ++end;
+        const ProblemTexts& texts = at->texts();
+        text += place(file, *at, *(end - 1)) + ": " + label(texts.severity, color) + " " +
+                SafeText::printable(at->text) + " [" + texts.code + "]\n";
+        if (!at->excerpt.empty() && end == at + 1)
+            text += excerpt(*at, color);
+        if (*texts.hint != '\0' && hinted.insert(at->problem).second)
+            text += "  Hinweis: " + std::string(texts.hint) + "\n";
+        at = end;
+    }
+    return text;
+}
+
+std::string renderError(std::string_view text, std::string_view code, bool color) {
+    return label(Severity::error, color) + " " + SafeText::printable(text) + " [" + std::string(code) + "]\n";
+}
+
+} // namespace MessageText

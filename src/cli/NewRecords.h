@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "datamodel/DataManager.h"
+
+/// What an import has added to a model: taken before the import, asked after it.
+class NewRecords {
+public:
+    explicit NewRecords(DataManager& model);
+
+    /// The new rows of "DataSets" without a date, from 1 over the new ones.
+    std::vector<std::size_t> undated() const;
+    /// Whether a field was filled in any new row of "DataSets".
+    bool anyHas(std::string_view field) const;
+
+    /// The session of the import; 0 when it wrote none.
+    int sessionId() const;
+    /// The session's file name, host bytes; nothing happens when there is no session.
+    void setFileName(const std::string& name) const;
+
+private:
+    bool hasSession() const;
+
+    DataManager& m_model;
+    unsigned m_recordsBefore;
+    unsigned m_sessionsBefore;
+};

@@ -1,0 +1,51 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "cli/OptionTable.h"
+
+#include <algorithm>
+#include <stdexcept>
+#include <string_view>
+
+namespace {
+
+const OptionSpec kOptions[] = {
+    {"--store", "DATEI", &Options::store, "der Bestand; ohne Angabe dmimport/bestand.db im Datenordner des Benutzers",
+     "--store bestand.db"},
+    {"--columns", "ZUORDNUNG", &Options::columns, "welche Spalte der Datei (ab 0) welches Feld füllt",
+     "--columns \"0=Datum,3=Betrag\""},
+    {"--unassigned", nullptr, &Options::unassigned, "alle Spalten zeigen, wie sie sind", "--unassigned"},
+    {"--delimiter", "ZEICHEN", &Options::delimiter, "das Trennzeichen der Spalten, oder tab", "--delimiter \";\""},
+    {"--header", nullptr, &Options::header, "die erste Zeile enthält Überschriften", "--header"},
+    {"--no-header", nullptr, &Options::noHeader, "die erste Zeile ist schon ein Datensatz", "--no-header"},
+    {"--format", "NAME", &Options::format,
+     "star-money, csv, qif, tax oder zasterhof; ohne Angabe nach der Endung der Datei", "--format csv"},
+    {"--verbatim", nullptr, &Options::verbatim,
+     "die Datei lesen, wie sie ist; Trennzeichen „,“, wenn nicht anders angegeben", "--verbatim"},
+    {"--info", "TEXT", &Options::info, "Beschreibung, die mit der Importsitzung abgelegt wird",
+     "--info \"Girokonto Mai\""},
+    {"--allow-undated", nullptr, &Options::allowUndated,
+     "Datensätze, deren Datum sich nicht lesen lässt, ohne Datum übernehmen", "--allow-undated"},
+    {"--keep-partial", nullptr, &Options::keepPartial, "bei einem Fehler behalten, was bis dahin übernommen wurde",
+     "--keep-partial"},
+    {"--limit", "ANZAHL", &Options::limit, "höchstens so viele Zeilen", "--limit 20"},
+    {"--json", nullptr, &Options::json, "maschinenlesbare Ausgabe", "--json"},
+    {"--quiet", nullptr, &Options::quiet, "kein Fortschritt, keine Zusammenfassung", "--quiet"},
+    {"--color", "WANN", &Options::color, "auto, always oder never", "--color never"},
+};
+
+} // namespace
+
+namespace OptionTable {
+
+std::span<const OptionSpec> all() { return kOptions; }
+
+const OptionSpec& byName(const char* name) {
+    const auto* found = std::find_if(std::begin(kOptions), std::end(kOptions), [name](const OptionSpec& option) {
+        return std::string_view(option.name) == name;
+    });
+    if (found == std::end(kOptions))
+        throw std::logic_error(std::string("no such option: ") + name);
+    return *found;
+}
+
+} // namespace OptionTable

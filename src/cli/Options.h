@@ -1,0 +1,30 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+/// The command line as it was written: which options were given, not yet what
+/// they mean. Texts are the shell's bytes.
+struct Options {
+    std::vector<std::string> operands; ///< files, or what else the command takes
+
+    std::optional<std::string> store;
+    std::optional<std::string> columns;
+    std::optional<std::string> delimiter;
+    std::optional<std::string> format;
+    std::optional<std::string> info;
+    std::optional<std::string> limit;
+    std::optional<std::string> color;
+
+    bool unassigned = false;
+    bool header = false;
+    bool noHeader = false;
+    bool verbatim = false;
+    bool allowUndated = false;
+    bool keepPartial = false;
+    bool json = false;
+    bool quiet = false;
+};

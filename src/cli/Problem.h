@@ -1,0 +1,33 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+/// What can go wrong with a file or a record. Each has a stable code, a German
+/// text and a hint in the table of ProblemTexts.cpp. (What can go wrong with a
+/// store is the store's own list.)
+enum class Problem {
+    fileMissing,
+    fileIsDirectory,
+    fileIsDevice,
+    fileUnreadable,
+    tempUnusable,
+    formatUnsupported,
+    columnsMissing,
+    columnOutside,
+    delimiterFound,
+    lineTooLong,
+    nulByte,
+    nulByteRead,
+    unbalancedQuote,
+    unbalancedQuoteRead,
+    badDate,
+    badAmount,
+    valueRefused,
+    tableFull,
+    noDate,
+    bookkeepingRefused,
+    importFailed,
+    optionIgnored,
+    outputFailed,
+    unexpected,
+};

@@ -1,0 +1,97 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "cli/ProblemTexts.h"
+
+#include <cstddef>
+#include <iterator>
+
+namespace {
+
+using enum Severity;
+
+constexpr ProblemTexts kTexts[] = {
+    {Problem::fileMissing, "file-missing", error, "Die Datei „{}“ gibt es nicht.",
+     "Prüfen Sie den Namen und den Ordner."},
+    {Problem::fileIsDirectory, "file-is-directory", error, "„{}“ ist ein Ordner und keine Datei.",
+     "Nennen Sie eine Datei in diesem Ordner."},
+    {Problem::fileIsDevice, "file-is-device", error, "„{}“ ist ein Gerät und keine Datei.",
+     "Nennen Sie eine Datei, oder „-“ für die Standardeingabe."},
+    {Problem::fileUnreadable, "file-unreadable", error, "Die Datei „{}“ lässt sich nicht lesen: {}.",
+     "Prüfen Sie die Rechte der Datei und ihrer Ordner."},
+    {Problem::tempUnusable, "temp-unusable", error, "Im Ordner für Zwischendateien „{}“ lässt sich nichts ablegen: {}.",
+     "Schaffen Sie dort Platz, oder nennen Sie in der Umgebungsvariablen TMPDIR einen anderen Ordner."},
+    {Problem::formatUnsupported, "format-unsupported", error, "Das Format „{}“ lässt sich noch nicht lesen.",
+     "„dmimport formats“ zeigt die Formate."},
+    {Problem::columnsMissing, "columns-missing", error, "Es ist nicht bekannt, was in welcher Spalte steht.",
+     "Sagen Sie es mit --columns, etwa --columns \"0=Datum,3=Betrag\"; „dmimport preview --unassigned“ zeigt die "
+     "Spalten mit ihren Nummern."},
+    {Problem::columnOutside, "column-outside", error,
+     "Die Spalte {} für „{}“ gibt es in keiner Zeile (Trennzeichen „{}“).",
+     "Prüfen Sie --columns und --delimiter; „dmimport preview --unassigned“ zeigt die Spalten mit ihren Nummern."},
+    {Problem::delimiterFound, "delimiter-found", warning, "Als Trennzeichen wurde „{}“ gefunden.",
+     "Trennt ein anderes Zeichen die Spalten, nennen Sie es mit --delimiter."},
+    {Problem::lineTooLong, "line-too-long", error, "Die Zeile ist {} Byte lang; höchstens 4094 lassen sich lesen.",
+     "Kürzen Sie die Zeile. Ist das wirklich eine Textdatei mit einem Datensatz je Zeile?"},
+    {Problem::nulByte, "nul-byte", error, "Die Zeile enthält ein Null-Zeichen; was dahinter steht, ginge verloren.",
+     "Ist das eine Textdatei in einer Kodierung mit einem Byte je Zeichen? Speichern Sie sie so, oder lassen Sie sie "
+     "mit "
+     "--verbatim lesen, wie sie ist."},
+    {Problem::nulByteRead, "nul-byte", warning,
+     "Die Zeile enthält ein Null-Zeichen; was dahinter steht, hat die Bibliothek nicht gelesen.", ""},
+    {Problem::unbalancedQuote, "unbalanced-quote", error,
+     "Ein Anführungszeichen wird in der Zeile nicht geschlossen; die Spalten dahinter ließen sich nicht trennen.",
+     "Berichtigen Sie die Zeile, oder lassen Sie die Datei mit --verbatim lesen, wie sie ist."},
+    {Problem::unbalancedQuoteRead, "unbalanced-quote", warning,
+     "Ein Anführungszeichen wird in der Zeile nicht geschlossen; die Spalten dahinter wurden zu einer.", ""},
+    {Problem::badDate, "bad-date", error,
+     "„{}“ ist kein Datum, oder Tag und Monat stehen anders als in den übrigen Zeilen.",
+     "Berichtigen Sie die Zeile, oder übernehmen Sie solche Datensätze mit --allow-undated ohne Datum."},
+    {Problem::badAmount, "bad-amount", error,
+     "„{}“ ist kein möglicher Betrag; er muss zwischen -9.999.999.999.999,99 und 9.999.999.999.999,99 liegen.",
+     "Berichtigen Sie die Zeile."},
+    {Problem::valueRefused, "value-refused", error, "Der Wert für „{}“ lässt sich nicht ablegen.",
+     "Berichtigen Sie die Zeile."},
+    {Problem::tableFull, "table-full", error, "Der Bestand ist voll: Er fasst 65.535 Datensätze.",
+     "Nennen Sie mit --store einen neuen Bestand für die übrigen Zeilen."},
+    {Problem::noDate, "no-date", warning, "Der Datensatz wurde ohne Datum übernommen.", ""},
+    {Problem::bookkeepingRefused, "bookkeeping-refused", error,
+     "Der Bestand nimmt die Angabe „{}“ zur Importsitzung nicht an.",
+     "„dmimport show counters“ zeigt seine Zähler; beginnen Sie mit --store einen neuen Bestand, wenn sie erschöpft "
+     "sind."},
+    {Problem::importFailed, "import-failed", error, "Die Datei wurde nicht übernommen. {}",
+     "Prüfen Sie, ob die Datei zu ihrem Format passt; --format nennt ein anderes."},
+    {Problem::optionIgnored, "option-ignored", warning,
+     "{} hat bei diesem Format keine Wirkung: Seine Spalten liegen fest.", ""},
+    {Problem::outputFailed, "output-failed", error, "Die Ausgabe lässt sich nicht schreiben.",
+     "Ist der Datenträger voll?"},
+    {Problem::unexpected, "unexpected", error, "Unerwarteter Fehler: {}.", ""},
+};
+
+constexpr bool inOrder() {
+    for (std::size_t i = 0; i < std::size(kTexts); ++i) {
+        if (static_cast<std::size_t>(kTexts[i].problem) != i)
+            return false;
+    }
+    return true;
+}
+static_assert(inOrder() && std::size(kTexts) == static_cast<std::size_t>(Problem::unexpected) + 1,
+              "one entry per problem, in the order of the problems");
+
+} // namespace
+
+const ProblemTexts& ProblemTexts::of(Problem problem) { return kTexts[static_cast<std::size_t>(problem)]; }
+
+std::string ProblemTexts::filled(std::string_view pattern, std::initializer_list<std::string_view> arguments) {
+    std::string text;
+    const auto* argument = arguments.begin();
+    while (!pattern.empty()) {
+        if (pattern.substr(0, 2) == "{}" && argument != arguments.end()) {
+            text += *argument++;
+            pattern.remove_prefix(2);
+        } else {
+            text += pattern.front();
+            pattern.remove_prefix(1);
+        }
+    }
+    return text;
+}

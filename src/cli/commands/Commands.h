@@ -1,0 +1,10 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include "cli/Command.h"
+
+extern const Command kFormatsCommand;
+extern const Command kPreviewCommand;
+extern const Command kImportCommand;
+extern const Command kShowCommand;
