@@ -12,60 +12,62 @@
 #include "homebanking/XmlLimitHandler.h"
 #include "homebanking/XmlTextScanner.h"
 
-QT_WARNING_DISABLE_DEPRECATED // see XmlLimitHandler
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations" // see XmlLimitHandler
 
-    namespace {
+namespace {
 
-    /// What entities may add to any document, in UTF-16 units; a longer one may double.
-    constexpr std::size_t kFreeExpansion = 256 * 1024;
+/// What entities may add to any document, in UTF-16 units; a longer one may double.
+constexpr std::size_t kFreeExpansion = 256 * 1024;
 
-    /// Feeds `use` with a source of the document's characters, made as the tree's
-    /// own reader gets it: the pieces count where an encoding changes on the way.
-    template <typename Use>
-    void withSource(const QByteArray& bytes, Use use) {
-        QBuffer buffer;
-        buffer.setData(bytes);
-        QXmlInputSource source(&buffer);
-        use(source);
-    }
+/// Feeds `use` with a source of the document's characters, made as the tree's
+/// own reader gets it: the pieces count where an encoding changes on the way.
+template <typename Use>
+void withSource(const QByteArray& bytes, Use use) {
+    QBuffer buffer;
+    buffer.setData(bytes);
+    QXmlInputSource source(&buffer);
+    use(source);
+}
 
-    XmlTextScanner scan(const QByteArray& bytes) {
-        XmlTextScanner scanner;
-        withSource(bytes, [&scanner](QXmlInputSource& source) {
-            for (QString piece = source.data(); !piece.isEmpty(); piece = source.data()) {
-                const auto* text = reinterpret_cast<const char16_t*>(piece.utf16());
-                scanner.read(text, text + piece.size());
-                source.fetchData();
-            }
-        });
-        return scanner;
-    }
+XmlTextScanner scan(const QByteArray& bytes) {
+    XmlTextScanner scanner;
+    withSource(bytes, [&scanner](QXmlInputSource& source) {
+        for (QString piece = source.data(); !piece.isEmpty(); piece = source.data()) {
+            const auto* text = reinterpret_cast<const char16_t*>(piece.utf16());
+            scanner.read(text, text + piece.size());
+            source.fetchData();
+        }
+    });
+    return scanner;
+}
 
-    bool isHarmless(const XmlTextScanner& scanner) {
-        return scanner.deepestLevel() <= XmlLimitHandler::kDeepestLevel &&
-               scanner.mostAttributes() <= XmlLimitHandler::kMostAttributes && !scanner.hasInternalSubset();
-    }
+bool isModest(const XmlTextScanner& scanner) {
+    return scanner.deepestLevel() <= XmlLimitHandler::kDeepestLevel &&
+           scanner.mostAttributes() <= XmlLimitHandler::kMostAttributes;
+}
 
-    XmlLimitHandler::Fault readInFull(const QByteArray& bytes, const XmlTextScanner& scanner) {
-        XmlLimitHandler handler(scanner.references(), std::max(scanner.length(), kFreeExpansion));
-        withSource(bytes, [&handler](QXmlInputSource& source) {
-            QXmlSimpleReader reader;
-            reader.setContentHandler(&handler);
-            reader.setDeclHandler(&handler);
-            reader.parse(source); // its errors are found again, and reported, by the tree's reader
-        });
-        return handler.fault();
-    }
+XmlLimitHandler::Fault readAgain(const QByteArray& bytes, const XmlTextScanner& scanner) {
+    const std::size_t expansionLimit = std::max(scanner.length(), kFreeExpansion);
+    XmlLimitHandler handler(scanner.references(), expansionLimit, !isModest(scanner));
+    withSource(bytes, [&handler](QXmlInputSource& source) {
+        QXmlSimpleReader reader;
+        reader.setContentHandler(&handler);
+        reader.setDeclHandler(&handler);
+        reader.setLexicalHandler(&handler);
+        reader.parse(source); // its errors are found again, and reported, by the tree's reader
+    });
+    return handler.fault();
+}
 
-    // Indexed by XmlLimitHandler::Fault.
-    constexpr const char* kTexts[] = {
-        nullptr,
-        "Die Elemente sind mehr als 1000 Ebenen tief verschachtelt.",
-        "Ein Element hat mehr als 1000 Attribute.",
-        "Die Dokumenttyp-Deklaration (DOCTYPE) ist zu umfangreich. Bitte das Dokument ohne sie schreiben.",
-    };
+// Indexed by XmlLimitHandler::Fault.
+constexpr const char* kTexts[] = {
+    nullptr,
+    "Die Elemente sind mehr als 1000 Ebenen tief verschachtelt.",
+    "Ein Element hat mehr als 1000 Attribute.",
+    "Die Dokumenttyp-Deklaration (DOCTYPE) ist zu umfangreich. Bitte das Dokument ohne sie schreiben.",
+};
 
-    const char* textOf(XmlLimitHandler::Fault fault) { return kTexts[static_cast<int>(fault)]; }
+const char* textOf(XmlLimitHandler::Fault fault) { return kTexts[static_cast<int>(fault)]; }
 
 } // namespace
 
@@ -73,12 +75,12 @@ namespace XmlGuard {
 
 const char* findFault(const QByteArray& bytes) {
     const XmlTextScanner scanner = scan(bytes);
-    if (isHarmless(scanner))
+    if (isModest(scanner) && !scanner.hasInternalSubset())
         return nullptr;
     // Nested groups of a content model are read by recursion.
     if (scanner.groups() > XmlLimitHandler::kMostGroups)
         return textOf(XmlLimitHandler::Fault::entities);
-    return textOf(readInFull(bytes, scanner));
+    return textOf(readAgain(bytes, scanner));
 }
 
 } // namespace XmlGuard

@@ -9,8 +9,8 @@ class QByteArray;
 /// attributes or entities by the thousand take hours or gigabytes.
 ///
 /// Decodes the bytes as the tree's own reader does, so that it sees what that
-/// one will see. Costs a few percent of building the tree; a document that
-/// declares entities of its own, or looks suspicious, is read once more in full.
+/// one will see. Costs a few percent of building the tree. A document that looks
+/// suspicious, or declares entities with elements in them, is read once more.
 namespace XmlGuard {
 
 /// Why no tree must be built: a German text in Latin-1; null when one may. A

@@ -9,10 +9,10 @@
 
 #include "framework/AssertTypeSizes.h"
 
-QT_WARNING_DISABLE_DEPRECATED // see the class
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations" // see the header
 
-XmlLimitHandler::XmlLimitHandler(std::size_t references, std::size_t expansionLimit)
-    : m_references(references), m_expansionLimit(expansionLimit) {}
+XmlLimitHandler::XmlLimitHandler(std::size_t references, std::size_t expansionLimit, bool inFull)
+    : m_references(references), m_expansionLimit(expansionLimit), m_readOn(inFull) {}
 
 bool XmlLimitHandler::startElement(const QString& /*uri*/, const QString& /*localName*/, const QString& /*name*/,
                                    const QXmlAttributes& attributes) {
@@ -38,8 +38,11 @@ bool XmlLimitHandler::internalEntityDecl(const QString& name, const QString& val
     if (m_awaited.contains(name) || (size != 0 && m_references > m_expansionLimit / size))
         return refuse(Fault::entities);
     m_entitySizes.insert(name, size);
+    m_readOn = m_readOn || value.contains(QLatin1Char('<'));
     return true;
 }
+
+bool XmlLimitHandler::endDTD() { return m_readOn; }
 
 bool XmlLimitHandler::refuse(Fault fault) {
     m_fault = fault;

@@ -8,12 +8,13 @@
 #include <QtCore/QSet>
 #include <QtXml/QXmlDefaultHandler>
 
-QT_WARNING_PUSH
-QT_WARNING_DISABLE_DEPRECATED // Qt 5.15 still builds its trees with the reader that it deprecates
+// Qt 5.15 deprecates this reader, yet still builds its trees with it.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations"
 
-    /// Listens to the very reader that tree builders use, entities expanded, and
-    /// stops it at what a tree must not be built from.
-    class XmlLimitHandler : public QXmlDefaultHandler {
+/// Listens to the very reader that tree builders use, entities expanded, and
+/// stops it at what a tree must not be built from.
+class XmlLimitHandler : public QXmlDefaultHandler {
 public:
     static constexpr int kDeepestLevel = 1000;
     static constexpr int kMostAttributes = 1000;
@@ -22,7 +23,8 @@ public:
 
     /// `references`: how often the document refers to entities, at most;
     /// `expansionLimit`: UTF-16 units that all of them together may stand for.
-    XmlLimitHandler(std::size_t references, std::size_t expansionLimit);
+    /// Reads on behind the DTD if `inFull`, or if entities may hold elements.
+    XmlLimitHandler(std::size_t references, std::size_t expansionLimit, bool inFull);
 
     enum class Fault { none, tooDeep, tooManyAttributes, entities };
     Fault fault() const { return m_fault; }
@@ -31,6 +33,7 @@ public:
                       const QXmlAttributes& attributes) override;
     bool endElement(const QString& uri, const QString& localName, const QString& name) override;
     bool internalEntityDecl(const QString& name, const QString& value) override;
+    bool endDTD() override;
 
 private:
     bool refuse(Fault fault);
@@ -38,10 +41,11 @@ private:
 
     std::size_t m_references;
     std::size_t m_expansionLimit;
+    bool m_readOn;
     Fault m_fault = Fault::none;
     int m_level = 0;
     QHash<QString, std::size_t> m_entitySizes; ///< entities expanded
     QSet<QString> m_awaited;                   ///< referred to before any declaration
 };
 
-QT_WARNING_POP
+#pragma GCC diagnostic pop
