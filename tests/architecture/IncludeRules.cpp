@@ -3,7 +3,6 @@
 #include "architecture/IncludeRules.h"
 
 #include <algorithm>
-#include <cctype>
 #include <string_view>
 
 namespace {

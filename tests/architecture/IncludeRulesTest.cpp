@@ -96,6 +96,7 @@ constexpr Case kCases[] = {
 
     {"cellar/Wine.cpp", "#include <vector>", kMayNot, "a room that the table does not know"},
     {"csv/ImportModuleCSV.cpp", "#include WHAT", kMayNot, "a macro hides what it includes"},
+    {"csv/ImportModuleCSV.cpp", "#include_next <vector>", kMayNot, "and so does what one compiler alone knows"},
     {"csv/ImportModuleCSV.cpp", "  #  include \"cli/main.h\" // x", kMayNot, "spelt with blanks and a comment"},
 };
 

@@ -3,9 +3,10 @@
 #include "architecture/SourceTree.h"
 
 #include <algorithm>
+#include <cstddef>
 #include <filesystem>
 #include <fstream>
-#include <regex>
+#include <string_view>
 
 namespace {
 
@@ -29,6 +30,15 @@ std::vector<SourceTree::SourceFile> readFiles() {
     return files;
 }
 
+/// Takes blanks and then `token` off the start of `text`, if they are there.
+bool take(std::string_view& text, std::string_view token) {
+    const std::size_t at = text.find_first_not_of(" \t");
+    if (at == std::string_view::npos || text.substr(at, token.size()) != token)
+        return false;
+    text.remove_prefix(at + token.size());
+    return true;
+}
+
 } // namespace
 
 namespace SourceTree {
@@ -41,14 +51,17 @@ const std::vector<SourceFile>& files() {
 bool isHeader(const std::string& path) { return path.size() > 2 && path.compare(path.size() - 2, 2, ".h") == 0; }
 
 std::vector<Include> includesOf(const SourceFile& file) {
-    static const std::regex directive(R"re(^\s*#\s*include\b\s*(?:"([^"]*)"|<([^>]*)>)?.*)re");
     std::vector<Include> includes;
     int number = 0;
     for (const std::string& line : file.lines) {
         ++number;
-        std::smatch match;
-        if (std::regex_match(line, match, directive))
-            includes.push_back({number, match[1].matched ? match[1].str() : match[2].str(), match[1].matched});
+        std::string_view rest = line;
+        if (take(rest, "#") && take(rest, "include")) {
+            const bool quoted = take(rest, "\"");
+            const bool bracketed = !quoted && take(rest, "<");
+            const std::string_view name = rest.substr(0, rest.find(quoted ? '"' : '>'));
+            includes.push_back({number, std::string(quoted || bracketed ? name : ""), quoted});
+        }
     }
     return includes;
 }
