@@ -55,7 +55,7 @@ double leadingNumber(std::string_view text) {
     // Too large or too small for a double; the digits before the mark tell which.
     const bool negative = text.front() == '-';
     const std::string_view whole = text.substr(0, text.find('.'));
-    const bool large = std::any_of(whole.begin(), whole.end(), [](char c) { return c >= '1' && c <= '9'; });
+    const bool large = whole.find_first_not_of("-0") != std::string_view::npos;
     const double magnitude = large ? HUGE_VAL : 0.0;
     return negative ? -magnitude : magnitude;
 }

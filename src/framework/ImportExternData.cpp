@@ -128,14 +128,13 @@ int ImportExternData::importFile(const ImportInputParams& params, char delimiter
 
 int ImportExternData::importWithModule(const ImportInputParams& params, char delimiter,
                                        const ColumnAssignment* assignment) {
-    if (!create(std::string(params.m_fileName)))
-        return 0;
+    const bool hasModule = create(std::string(params.m_fileName));
     if (m_format == Import::eFormatCSV) {
         if (assignment != nullptr)
             assignColumns(*assignment);
         setDelimiterChar(delimiter);
     }
-    return params.m_targetNode != nullptr ? m_module->importFile(params) : 0;
+    return hasModule && params.m_targetNode != nullptr ? m_module->importFile(params) : 0;
 }
 
 bool ImportExternData::importElsterXmlFile(const ImportInputParams& /*params*/) { return false; }
