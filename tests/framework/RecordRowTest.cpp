@@ -3,6 +3,7 @@
 #include <string>
 
 #include "framework/ModuleFixture.h"
+#include "support/CountingNode.h"
 
 namespace {
 
@@ -215,6 +216,15 @@ TEST_F(RecordRowTest, ZeroDateIsTakenByDefaultAndRefusedWhereADateIsDemanded) {
     EXPECT_FALSE(module.setColumnVal(strictRow, "Datum", "kein Datum", false));
     EXPECT_EQ(module.getErrorMsg(), std::string(kHeading) + "Zeile 1: kein Datum<br>");
     EXPECT_EQ(strict.rows("DataSets"), 0);
+}
+
+TEST_F(RecordRowTest, RefusedValueIsReportedEvenWhereTheTableIsNoLongerFound) {
+    const auto row = m_module.startRow(1, false);
+    CountingNode rootWithoutTable;
+    m_module.m_targetNode = &rootWithoutTable;
+    EXPECT_FALSE(m_module.setColumnVal(row, "Betrag", kTooMuch, false));
+    EXPECT_EQ(m_module.getErrorMsg(), std::string(kHeading) + "Zeile 1: 99999999999999,99<br>");
+    EXPECT_EQ(m_model.rows("DataSets"), 1);
 }
 
 // ---- no record
