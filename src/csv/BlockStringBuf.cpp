@@ -42,6 +42,7 @@ BlockStringBuf::~BlockStringBuf() = default;
 
 char** BlockStringBuf::restore(int& count) {
     count = m_count;
+    m_columns.reset(new char*[static_cast<std::size_t>(m_count)]);
     const char* length = m_buffer.get();
     char* text = m_buffer.get() + sizeof(Length) * static_cast<std::size_t>(m_count);
     for (int i = 0; i < m_count; ++i) {
@@ -51,5 +52,5 @@ char** BlockStringBuf::restore(int& count) {
         length += sizeof bytes;
         text += bytes;
     }
-    return m_columns;
+    return m_columns.get();
 }

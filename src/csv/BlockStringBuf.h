@@ -26,5 +26,5 @@ private:
     std::uint32_t m_size; ///< bytes of the block
     int m_count;
     std::unique_ptr<char[]> m_buffer;
-    char* m_columns[UnknownRowInfo::kColumns]; ///< into the block; set by `restore`
+    std::unique_ptr<char*[]> m_columns; ///< into the block; made by `restore`, so that rows that wait stay small
 };

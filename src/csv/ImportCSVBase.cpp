@@ -4,9 +4,32 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
 
 #include "csv/unquoteInPlace.h"
 #include "framework/AssertTypeSizes.h"
+
+namespace {
+
+/// The delimiter or the zero byte that ends `field`; a delimiter inside quotes
+/// does not. `firstQuote` is set where there is one.
+char* endOfField(char* field, char delimiter, char*& firstQuote) {
+    const char stops[] = {'"', delimiter, '\0'};
+    char* at = field + std::strcspn(field, stops);
+    if (*at != '"')
+        return at;
+    firstQuote = at;
+    for (;;) {
+        at = std::strchr(at + 1, '"');
+        if (at == nullptr) // never closed: the rest of the line is the field
+            return firstQuote + std::strlen(firstQuote);
+        at += 1 + std::strcspn(at + 1, stops);
+        if (*at != '"')
+            return at;
+    }
+}
+
+} // namespace
 
 template <typename T>
 ImportCSVBase<T>::ImportCSVBase() {
@@ -58,16 +81,7 @@ int ImportCSVBase<T>::extractColumns(char* line) {
     for (;;) {
         char* const field = at;
         char* firstQuote = nullptr;
-        bool insideQuotes = false;
-        for (; *at != '\0'; ++at) {
-            if (*at == '"') {
-                if (firstQuote == nullptr)
-                    firstQuote = at;
-                insideQuotes = !insideQuotes;
-            } else if (*at == m_delimiter && !insideQuotes) {
-                break;
-            }
-        }
+        at = endOfField(field, m_delimiter, firstQuote);
         const bool endOfLine = *at == '\0';
         *at = '\0';
         m_row.m_columns[count++] = firstQuote != nullptr ? unquoteInPlace(firstQuote) : field;

@@ -61,8 +61,9 @@ bool ImportModuleCSV::onImportAllDataSets(const ImportInputParams& params) {
     if (!hasColumnAssignment() && !m_simulate)
         return true;
     bool header = params.m_firstLineIsHeader != 0 || m_format == Import::eFormatZasterhof;
-    for (BlockStringBuf& row : m_rows) {
-        if (!importBufferedRow(row, header))
+    // Each row goes when it is written: the buffer and the model are never both whole.
+    for (; !m_rows.empty(); m_rows.pop_front()) {
+        if (!importBufferedRow(m_rows.front(), header))
             return false;
         header = false;
     }
