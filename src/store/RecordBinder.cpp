@@ -5,21 +5,11 @@
 #include <algorithm>
 
 #include "datamodel/HostText.h"
+#include "store/AsciiText.h"
 #include "store/StoreDate.h"
 
-namespace {
-
-bool isAscii(std::string_view text) {
-    unsigned char all = 0;
-    for (const char c : text)
-        all |= static_cast<unsigned char>(c);
-    return all < 0x80;
-}
-
-} // namespace
-
 std::string_view RecordBinder::utf8(std::size_t field, std::string_view hostText) {
-    if (isAscii(hostText))
+    if (AsciiText::isAscii(hostText))
         return hostText;
     m_converted[field].clear();
     HostText::appendUtf8(m_converted[field], hostText);

@@ -9,6 +9,7 @@
 
 #include "datamodel/FieldSpec.h"
 #include "datamodel/HostText.h"
+#include "store/AsciiText.h"
 #include "store/StoreDate.h"
 #include "store/StoreError.h"
 
@@ -33,11 +34,17 @@ Value currencyValue(const SqliteStatement& row, int column) {
 Value textValue(const SqliteStatement& row, int column) {
     if (row.type(column) != SQLITE_TEXT)
         return std::nullopt;
-    const std::string_view utf8 = row.text(column);
-    const std::optional<std::string> text = HostText::fromUtf8(utf8);
-    if (!text || text->find('\0') != std::string::npos)
+    const std::string_view utf8 = row.text(column); // a zero byte behind it, as SQLite makes it
+    if (utf8.find('\0') != std::string_view::npos)
         return std::nullopt;
     DataType value;
+    if (AsciiText::isAscii(utf8)) {
+        value = utf8.data();
+        return value;
+    }
+    const std::optional<std::string> text = HostText::fromUtf8(utf8);
+    if (!text)
+        return std::nullopt;
     value = text->c_str();
     return value;
 }

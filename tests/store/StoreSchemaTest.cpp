@@ -76,3 +76,35 @@ TEST_F(StoreSchema, QuestionsOfAPersonAreAnsweredDirectly) {
     EXPECT_EQ("2004-12-31|-12.5|Müller €|2004",
               Sql(m_file).value("SELECT Datum, Betrag, Empfaenger, strftime('%Y', Datum) FROM DataSets"));
 }
+
+namespace {
+
+/// The part of `text` from `from` up to the next `to` (or the end).
+std::string between(const std::string& text, const std::string& from, const std::string& to) {
+    const std::size_t begin = text.find(from);
+    if (begin == std::string::npos)
+        return {};
+    const std::size_t content = begin + from.size();
+    return text.substr(content, text.find(to, content) - content);
+}
+
+} // namespace
+
+TEST_F(StoreSchema, DocumentNamesEveryColumnUnderItsTable) {
+    const std::string document = StoreFolder::bytes(STORE_DOCUMENT);
+    Sql sql(m_file);
+    for (const std::string& table : sql.rows("SELECT name FROM sqlite_master WHERE type = 'table'")) {
+        // The paragraph that the table's name begins, and the list of columns behind it.
+        const std::string section = between(document, "\n`" + table + "`: ", "\n\n`");
+        ASSERT_FALSE(section.empty()) << table;
+        for (const std::string& column :
+             sql.rows("SELECT name FROM pragma_table_info('" + table + "') WHERE name <> 'id'"))
+            EXPECT_NE(std::string::npos, section.find("`" + column + "`")) << table << "." << column;
+    }
+}
+
+TEST_F(StoreSchema, QuestionsOfTheDocumentAreAnswered) {
+    const std::string questions = between(StoreFolder::bytes(STORE_DOCUMENT), "```sql\n", "```");
+    ASSERT_FALSE(questions.empty());
+    EXPECT_NO_THROW(Sql(m_file).run(questions));
+}
