@@ -19,8 +19,8 @@ namespace {
 /// What entities may add to any document, in UTF-16 units; a longer one may double.
 constexpr std::size_t kFreeExpansion = 256 * 1024;
 
-/// Feeds `use` with a source of the document's characters, made as the tree's
-/// own reader gets it: the pieces count where an encoding changes on the way.
+/// Feeds `use` with a source of the document's characters, decoded piece by
+/// piece as for the tree's own reader.
 template <typename Use>
 void withSource(const QByteArray& bytes, Use use) {
     QBuffer buffer;

@@ -1,0 +1,169 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "homebanking/XmlTextScanner.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <random>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <QtCore/QString>
+#include <QtXml/QXmlDefaultHandler>
+#include <QtXml/QXmlSimpleReader>
+
+#pragma GCC diagnostic ignored "-Wdeprecated-declarations" // the reader that trees are built with
+
+namespace {
+
+XmlTextScanner scan(const std::u16string& text, std::size_t piece = std::u16string::npos) {
+    XmlTextScanner scanner;
+    for (std::size_t at = 0; at < text.size(); at += std::min(piece, text.size() - at)) {
+        const char16_t* begin = text.data() + at;
+        scanner.read(begin, begin + std::min(piece, text.size() - at));
+    }
+    return scanner;
+}
+
+struct DepthCase {
+    const char16_t* text;
+    int levels;
+    int attributes;
+    const char* why;
+};
+
+constexpr DepthCase kCases[] = {
+    {u"", 0, 0, "nothing"},
+    {u"Text", 0, 0, "no element"},
+    {u"<a/>", 1, 0, "an empty element is a level"},
+    {u"<a></a>", 1, 0, "so is one with two tags"},
+    {u"<a><b/><b/><b></b></a>", 2, 0, "brothers share a level"},
+    {u"<a><b><c/></b><b/></a>", 3, 0, "the deepest counts"},
+    {u"<a ><b\n/></a ><!-- -->", 2, 0, "blanks in tags"},
+    {u"<a><b></b\n></a\t>", 2, 0, "blanks in end tags"},
+    {u"<a x='1' y=\"2\"><b z='3'/></a>", 2, 2, "attributes of one element"},
+    {u"<a x='/'><b/></a>", 2, 1, "a slash in a value closes nothing"},
+    {u"<a x=\"/>\"><b/></a>", 2, 1, "nor does a bracket"},
+    {u"<a x='\">'><b y=\"'>\"/></a>", 2, 1, "each quote ends at its own"},
+    {u"<a x='<b><b><b>'/>", 1, 1, "tags in a value are none"},
+    {u"<a x='1'/><b/>", 1, 1, "a slash behind a value closes"},
+    {u"<a><!-- <b><b><b> --></a>", 1, 0, "comments"},
+    {u"<a><!-- </a></a> --><b/></a>", 2, 0, "that would take levels away"},
+    {u"<a><!--><b/>--></a>", 1, 0, "a comment may start with a bracket"},
+    {u"<a><!---><b/>--></a>", 1, 0, "or with a dash and one"},
+    {u"<a><!----><b/></a>", 2, 0, "or be empty"},
+    {u"<a><!-- - - > <b/> --></a>", 1, 0, "single dashes end none"},
+    {u"<a><![CDATA[<b><b>]]></a>", 1, 0, "CDATA sections"},
+    {u"<a><![CDATA[]]]]><b/></a>", 2, 0, "that end in brackets"},
+    {u"<a><![CDATA[]>]] ><b/>]]></a>", 1, 0, "that hold parts of their end"},
+    {u"<a><![CDATA[--><b/>]]></a>", 1, 0, "and other ends"},
+    {u"<?xml version='1.0'?><a><?p <b><b> ?></a>", 1, 0, "processing instructions"},
+    {u"<a><?p ? > <b/> ?" u"?><c/></a>", 2, 0, "that hold parts of their end"},
+    {u"<!DOCTYPE a><a/>", 1, 0, "document types"},
+    {u"<!DOCTYPE a SYSTEM 'x[<b><b>'><a/>", 1, 0, "quoted names in them"},
+    {u"</a></a></a><b><b/></b>", 2, 0, "levels are never below none"},
+};
+
+TEST(XmlTextScannerTest, SeesTheLevelsThroughWhateverHidesThem) {
+    for (const DepthCase& test : kCases) {
+        for (const std::size_t piece : {std::u16string::npos, std::size_t{1}, std::size_t{3}}) {
+            SCOPED_TRACE(QString::fromUtf16(test.text).toStdString() + ": " + test.why);
+            const XmlTextScanner scanner = scan(test.text, piece);
+            EXPECT_EQ(scanner.deepestLevel(), test.levels);
+            EXPECT_EQ(scanner.mostAttributes(), test.attributes);
+            EXPECT_FALSE(scanner.hasInternalSubset());
+            EXPECT_EQ(scanner.references(), 0U);
+            EXPECT_EQ(scanner.length(), std::u16string(test.text).size());
+        }
+    }
+}
+
+struct SubsetCase {
+    const char16_t* text;
+    int levels;
+    std::size_t groups;
+    std::size_t references;
+    const char* why;
+};
+
+constexpr SubsetCase kSubsets[] = {
+    {u"<!DOCTYPE a []><a/>", 1, 0, 0, "empty"},
+    {u"<!DOCTYPE a [<!ENTITY e '<b><b>'>]><a>&e;&e;</a>", 1, 0, 2, "entities"},
+    {u"<!DOCTYPE a [<!ENTITY e ']><b>'>]><a/>", 1, 0, 0, "its end in a value"},
+    {u"<!DOCTYPE a [<!-- ]><b> ' --><!ENTITY e 'x'>]><a/>", 1, 0, 0, "its end, and a quote, in a comment"},
+    {u"<!DOCTYPE a [<?p ]><b> ' ?><!ENTITY e 'x'>]><a/>", 1, 0, 0, "its end, and a quote, in an instruction"},
+    {u"<!DOCTYPE a SYSTEM 'x' [<!ELEMENT a (b|(c,d))*>] ><a/>", 1, 2, 0, "groups of a content model"},
+    {u"<!DOCTYPE a [<!ATTLIST a b CDATA '(('>%p;]><a/>", 1, 0, 0, "parentheses in a value are none"},
+    {u"<!DOCTYPE a [<!ELEMENT a EMPTY>]><a>((&amp;</a>", 1, 0, 1, "nor are those behind the subset"},
+    {u"<!DOCTYPE a [<![INCLUDE[<b>]]>]><a/>", 1, 0, 0, "sections are not known there"},
+};
+
+TEST(XmlTextScannerTest, TellsOfAnInternalSubset) {
+    for (const SubsetCase& test : kSubsets) {
+        for (const std::size_t piece : {std::u16string::npos, std::size_t{1}}) {
+            SCOPED_TRACE(QString::fromUtf16(test.text).toStdString() + ": " + test.why);
+            const XmlTextScanner scanner = scan(test.text, piece);
+            EXPECT_TRUE(scanner.hasInternalSubset());
+            EXPECT_EQ(scanner.deepestLevel(), test.levels);
+            EXPECT_EQ(scanner.groups(), test.groups);
+            EXPECT_EQ(scanner.references(), test.references);
+        }
+    }
+}
+
+/// What the reader behind the tree meets before it stops.
+class Listener : public QXmlDefaultHandler {
+public:
+    int deepest = 0;
+    int mostAttributes = 0;
+
+    bool startElement(const QString&, const QString&, const QString&, const QXmlAttributes& attributes) override {
+        deepest = std::max(deepest, ++m_level);
+        mostAttributes = std::max(mostAttributes, attributes.length());
+        return true;
+    }
+    bool endElement(const QString&, const QString&, const QString&) override {
+        --m_level;
+        return true;
+    }
+
+private:
+    int m_level = 0;
+};
+
+TEST(XmlTextScannerTest, NeverSeesLessThanTheReaderOfTheTree) {
+    const char16_t* const kPieces[] = {u"<a>",      u"<a>",  u"<a>",         u"</a>", u"</a>", u"<b",    u" x='1'",
+                                       u" y=\"2\"", u">",    u"/>",          u"</b>", u"<!--", u"-->",   u"<![CDATA[",
+                                       u"]]>",      u"]",    u"<?p ",        u"?>",   u"'",    u"\"",    u"-",
+                                       u"?",        u"Text", u"<!DOCTYPE a", u"[",    u"&lt;", u"&#60;", u"/",
+                                       u" ",        u"=",    u"<",           u"!"};
+    std::mt19937 random(20260117); // the same documents in every run
+    int read = 0;
+    for (int round = 0; round < 100000; ++round) {
+        std::u16string text;
+        // Half of the documents start well, so that the reader comes far.
+        if (round % 2 == 0)
+            text = u"<a><a>";
+        for (std::uint_fast32_t count = random() % 14; count > 0; --count)
+            text += kPieces[random() % std::size(kPieces)];
+        if (round % 2 == 0)
+            text += u"</a></a>";
+
+        QXmlSimpleReader reader;
+        Listener listener;
+        reader.setContentHandler(&listener);
+        QXmlInputSource source;
+        const QString document = QString::fromStdU16String(text);
+        source.setData(document);
+        read += reader.parse(source) ? 1 : 0;
+
+        const XmlTextScanner scanner = scan(text);
+        if (scanner.hasInternalSubset())
+            continue;
+        ASSERT_GE(scanner.deepestLevel(), listener.deepest) << document.toStdString();
+        ASSERT_GE(scanner.mostAttributes(), listener.mostAttributes) << document.toStdString();
+    }
+    EXPECT_GT(read, 500) << "the documents are too broken to prove anything";
+}
+
+} // namespace
