@@ -38,7 +38,10 @@ std::string valueOf(const Source& source, const ImportDataSetStartMoney& row) {
     std::string value;
     for (int column = source.first; column <= source.last; ++column) {
         const char* text = row.m_columns[column];
-        value += source.quotes == Quotes::strip ? stripQuotes(text) : text;
+        if (source.quotes == Quotes::strip)
+            value += stripQuotes(text);
+        else
+            value += text;
     }
     return value;
 }

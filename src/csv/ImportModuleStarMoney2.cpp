@@ -102,8 +102,9 @@ bool ImportModuleStarMoney2::importRowIntoTable(const UnknownRowInfo& row, int c
                 purpose += stripQuotes(text); // in file order, whatever the numbers say
             continue;
         }
-        const bool asItStands = !header && (name == date || name == amount);
-        const std::string value = asItStands ? text : stripQuotes(text);
+        std::string value = text;
+        if (header || (name != date && name != amount))
+            value = stripQuotes(text);
         stored = setColumnVal(inserter, name, value.c_str(), header) && stored;
     }
     const char* purposeName = getColumnNameForIndex(Import::eColVerwendungszweck);

@@ -35,6 +35,12 @@ constexpr std::array<RowColumn, 7> kRowColumns = {{
 
 constexpr int kRowWidth = static_cast<int>(kRowColumns.size());
 
+std::string textOf(const RowColumn& column, const Record& record) {
+    if (column.text != nullptr)
+        return record.*column.text;
+    return record.m_date.asString();
+}
+
 } // namespace
 
 const char* const ImportModuleQIF::m_MyFileExtension = "qif";
@@ -83,29 +89,21 @@ bool ImportModuleQIF::processLine(char* line, Node* /*target*/) {
 }
 
 bool ImportModuleQIF::onImportAllDataSets(const ImportInputParams& /*params*/) {
-    return writeHeaderRow() && std::all_of(m_dataSets.begin(), m_dataSets.end(),
-                                           [&](const ImportDataSet& dataSet) { return writeDataSet(dataSet); });
+    return writeRow(nullptr) && std::all_of(m_dataSets.begin(), m_dataSets.end(),
+                                            [&](const ImportDataSet& dataSet) { return writeRow(&dataSet); });
 }
 
-bool ImportModuleQIF::writeHeaderRow() {
-    const RowInserter row = startRow(kRowWidth, true);
-    const bool stored = std::all_of(kRowColumns.begin(), kRowColumns.end(), [&](const RowColumn& column) {
+bool ImportModuleQIF::writeRow(const ImportDataSet* dataSet) {
+    const bool header = dataSet == nullptr;
+    const RowInserter row = startRow(kRowWidth, header);
+    for (const RowColumn& column : kRowColumns) {
         const char* name = getColumnNameForIndex(column.column);
-        return setColumnVal(row, name, name, true);
-    });
-    return stored && ImportFileBase::compelteRowProcessing(true);
-}
-
-bool ImportModuleQIF::writeDataSet(const ImportDataSet& dataSet) {
-    const RowInserter row = startRow(kRowWidth, false);
-    const bool stored = std::all_of(kRowColumns.begin(), kRowColumns.end(), [&](const RowColumn& column) {
-        const char* name = getColumnNameForIndex(column.column);
-        return column.text != nullptr ? setColumnVal(row, name, (dataSet.*column.text).c_str(), false)
-                                      : setColumnVal(row, name, dataSet.m_date.asString().c_str(), false);
-    });
-    if (stored)
-        ImportFileBase::compelteRowProcessing(false); // a record without identifiers is kept, and not counted
-    return stored;
+        const std::string value = header ? name : textOf(column, *dataSet);
+        if (!setColumnVal(row, name, value.c_str(), header))
+            return false;
+    }
+    ImportFileBase::compelteRowProcessing(header); // a record without identifiers is kept, and not counted
+    return true;
 }
 
 double ImportModuleQIF::qifCurrencytoDouble(std::string& text) {

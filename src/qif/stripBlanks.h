@@ -9,6 +9,8 @@
 /// A line without the blanks at its ends, then without the tabs at what are its
 /// ends then. Once each: a blank inside a tab stays.
 inline std::string stripBlanks(const char* line) {
-    return DMStringFunctions::strip(DMStringFunctions::strip(line, DMStringFunctions::eStripBoth, ' '),
-                                    DMStringFunctions::eStripBoth, '\t');
+    std::string text = line;
+    for (const char blank : {' ', '\t'})
+        text = DMStringFunctions::strip(text, DMStringFunctions::eStripBoth, blank);
+    return text;
 }
