@@ -17,9 +17,9 @@ constexpr int kDecimals = 2;
 std::string withTwoDecimals(double amount) {
     constexpr std::size_t kMostDigits = std::numeric_limits<double>::max_exponent10 + 1;
     std::array<char, kMostDigits + sizeof "-.00"> text{};
-    const auto end =
+    const char* const end =
         std::to_chars(text.data(), text.data() + text.size(), amount, std::chars_format::fixed, kDecimals).ptr;
-    return {text.data(), end};
+    return std::string(text.data(), static_cast<std::size_t>(end - text.data()));
 }
 
 } // namespace
