@@ -78,6 +78,15 @@ TEST_F(HostCalendarTest, IsNotAskedAboutADateThatContradictsTheOrder) {
     expectAsked(77, 77, 77, "invalid by itself");
 }
 
+TEST_F(HostCalendarTest, IsNotAskedAboutATextOfLessThanThreeNumbers) {
+    g_asked = {77, 77, 77};
+    for (const char* text : {"20040101", "01.02", "abc", ".", ""}) {
+        SmartDate date;
+        EXPECT_FALSE(date.parse(text)) << text;
+    }
+    expectAsked(77, 77, 77, "invalid by itself");
+}
+
 TEST_F(HostCalendarTest, TakingMonthAndDayZeroStillGetsTheZeroDateUnderAnOrderThatIsNone) {
     SmartDate::sm_order = 3;
     SmartDate date;

@@ -108,11 +108,13 @@ TEST_F(SmartDateTest, FreshObjectHoldsNoDay) {
 }
 
 TEST_F(SmartDateTest, ParseDoesNotClearSoThatAnInvalidDateStaysInvalid) {
-    SmartDate date;
-    EXPECT_FALSE(date.parse("20040101"));
-    EXPECT_FALSE(date.parse("1.2.2004"));
-    date.clear();
-    EXPECT_TRUE(date.parse("1.2.2004"));
+    for (const char* text : {"20040101", "01.02"}) {
+        SmartDate date;
+        EXPECT_FALSE(date.parse(text)) << text;
+        EXPECT_FALSE(date.parse("1.2.2004")) << text;
+        date.clear();
+        EXPECT_TRUE(date.parse("1.2.2004")) << text;
+    }
 }
 
 TEST_F(SmartDateTest, ClearEmptiesTheNumbers) {
@@ -139,6 +141,21 @@ TEST_F(SmartDateTest, ApostropheOfAnEarlierDateCountsUntilCleared) {
     ASSERT_TRUE(date.parse("1/5'98"));
     ASSERT_TRUE(date.parse("1/5/98"));
     EXPECT_EQ(date.getDate(), DMDate(1, 5, 2098));
+}
+
+TEST_F(SmartDateTest, ApostropheCountsOnlyWhileTheQifSyntaxIsOn) {
+    SmartDate seenWhileOn;
+    SmartDate::m_useQIFSyntax = true;
+    ASSERT_TRUE(seenWhileOn.parse("1/5'98"));
+    SmartDate::m_useQIFSyntax = false;
+    ASSERT_TRUE(seenWhileOn.parse("1/5/98"));
+    EXPECT_EQ(seenWhileOn.getDate(), DMDate(1, 5, 1998));
+
+    SmartDate seenWhileOff;
+    ASSERT_TRUE(seenWhileOff.parse("1/5'98"));
+    SmartDate::m_useQIFSyntax = true;
+    ASSERT_TRUE(seenWhileOff.parse("1/5/98"));
+    EXPECT_EQ(seenWhileOff.getDate(), DMDate(1, 5, 1998));
 }
 
 TEST_F(SmartDateTest, TwoDigitYearsAreWidenedByTheCenturyWindow) {

@@ -257,7 +257,9 @@ TEST_F(SessionWritingTest, NewImportStartsItsCountersAfresh) {
 TEST_F(SessionWritingTest, NewImportForgetsTheRowOfTheOneBefore) {
     EXPECT_EQ(import("a\n"), 1);
     ASSERT_NE(m_module.m_currentRow.record(), nullptr);
+    m_module.m_skipRow = true;
     EXPECT_EQ(import(""), 1);
+    EXPECT_FALSE(m_module.m_skipRow);
     EXPECT_EQ(m_module.m_currentRow.record(), nullptr);
     EXPECT_FALSE(m_module.m_newDataFlagged);
 }
