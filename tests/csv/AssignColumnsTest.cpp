@@ -141,4 +141,13 @@ TEST(AssignColumns, ReadsAtMostSevenPairsAndNoneForACountBelowOne) {
     }
 }
 
+// It stands where the file column of an eighth pair would.
+TEST(AssignColumns, TheCountIsNotTakenForAPair) {
+    for (const int count : {8, 9, 1000, INT_MAX}) {
+        Module module;
+        module.assignColumns({{}, count});
+        EXPECT_EQ(nameOrNone(module.getAssignedColumnNameForIndex(count)), "(none)") << count;
+    }
+}
+
 } // namespace

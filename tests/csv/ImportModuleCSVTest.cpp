@@ -395,6 +395,16 @@ TEST(CsvImported, StartsEveryImportWithItsOwnRows) {
     EXPECT_THAT(job.records("Empfaenger"), ElementsAre("a", "b"));
 }
 
+TEST(CsvImported, ForgetsTheRowsOfAnImportThatWroteNone) {
+    CsvImport job;
+    EXPECT_EQ(job.run("a;1\n"), 3); // without an assignment
+    job.assign(kNameAmount);
+    EXPECT_EQ(job.run("b;2\n" + std::string(4095, 'x') + "\n"), 0);
+    EXPECT_EQ(job.run("c;3\n"), 1);
+
+    EXPECT_THAT(job.records("Empfaenger"), ElementsAre("c"));
+}
+
 TEST(CsvImported, SplitsAtNoByteWithoutADelimiter) {
     CsvImport job;
     job.module.m_delimiter = '\0';
