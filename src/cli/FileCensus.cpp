@@ -20,7 +20,7 @@ struct FileCensus::Line {
 
     void add(std::string_view piece) {
         bytes += piece.size();
-        oddQuotes ^= std::count(piece.begin(), piece.end(), '"') % 2 != 0;
+        oddQuotes = oddQuotes != (std::count(piece.begin(), piece.end(), '"') % 2 != 0);
         if (isBlankBeforeNul && !hasNul) {
             const std::size_t content = piece.find_first_not_of(" \t");
             isBlankBeforeNul = content == std::string_view::npos || piece[content] == '\0';

@@ -77,6 +77,7 @@ std::vector<ShownColumn> shownColumns(const FileReading& reading, const ImportRe
 
 std::vector<std::string> cellsOf(const ImportRecordSet& preview, int row, const std::vector<ShownColumn>& columns) {
     std::vector<std::string> cells;
+    cells.reserve(columns.size());
     for (const ShownColumn& column : columns)
         cells.push_back(SafeText::printable(HostText::toUtf8(preview.getString(row, column.number))));
     return cells;
@@ -115,6 +116,7 @@ void writeTable(Console& console, const FileReading& reading, const LibraryRun& 
     const int rowCount = shownRows(preview, limit);
     if (!columns.empty()) {
         std::vector<TableColumn> headings;
+        headings.reserve(columns.size());
         for (const ShownColumn& column : columns)
             headings.push_back(column.table);
         TableWriter table(console, std::move(headings));

@@ -17,7 +17,7 @@
 namespace {
 
 /// What entities may add to any document, in UTF-16 units; a longer one may double.
-constexpr std::size_t kFreeExpansion = 256 * 1024;
+constexpr std::size_t kFreeExpansion = std::size_t{256} * 1024;
 
 /// Feeds `use` with a source of the document's characters, decoded piece by
 /// piece as for the tree's own reader.

@@ -4,7 +4,7 @@
 
 #include "framework/AssertTypeSizes.h"
 
-XmlImportData::XmlImportData() : m_buffer(nullptr), m_bufferSize(0), m_importTargetNode(nullptr) {}
+XmlImportData::XmlImportData() = default;
 
 void XmlImportData::setXmlFileName(const char* name) {
     m_xmlFileName = name != nullptr ? name : "";

@@ -29,8 +29,8 @@ public:
     Node* getImportTargetNode() const { return m_importTargetNode; }
 
 private:
-    const char* m_buffer;
-    unsigned long m_bufferSize;
+    const char* m_buffer = nullptr;
+    unsigned long m_bufferSize = 0;
     std::string m_xmlFileName;
-    Node* m_importTargetNode;
+    Node* m_importTargetNode = nullptr;
 };

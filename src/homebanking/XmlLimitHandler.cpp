@@ -52,7 +52,7 @@ bool XmlLimitHandler::refuse(Fault fault) {
 std::size_t XmlLimitHandler::expandedSize(const QString& value) {
     auto size = static_cast<std::size_t>(value.size());
     const QVector<QStringRef> parts = value.splitRef(QLatin1Char('&'));
-    for (auto part = std::next(parts.begin()); part != parts.end(); ++part) {
+    for (const auto* part = std::next(parts.begin()); part != parts.end(); ++part) {
         const QString name = part->left(part->indexOf(QLatin1Char(';'))).toString();
         const auto known = m_entitySizes.constFind(name);
         if (known == m_entitySizes.constEnd())

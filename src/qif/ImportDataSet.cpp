@@ -17,7 +17,7 @@ constexpr int kDecimals = 2;
 std::string withTwoDecimals(double amount) {
     constexpr std::size_t kMostDigits = std::numeric_limits<double>::max_exponent10 + 1;
     std::array<char, kMostDigits + sizeof "-.00"> text{};
-    const char* const end =
+    char* const end =
         std::to_chars(text.data(), text.data() + text.size(), amount, std::chars_format::fixed, kDecimals).ptr;
     return std::string(text.data(), static_cast<std::size_t>(end - text.data()));
 }

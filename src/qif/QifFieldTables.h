@@ -22,8 +22,8 @@ enum class Action {
 constexpr char kEndOfRecord = '^';
 
 struct Row {
-    char letter;
-    Action action;
+    char letter = 0;
+    Action action = Action::ignore;
     std::string ImportModuleQIF::ImportDataSet::*text = nullptr; ///< for `keepText`
 };
 
