@@ -16,9 +16,13 @@
 #include "framework/ImportExternData.h"
 #include "framework/ImportExternInterface.h"
 #include "framework/ImportFileBase.h"
+#include "framework/ImportInputParams.h"
 #include "framework/ImportModuleBase.h"
 #include "framework/ImportRecordSet.h"
 #include "framework/ImportRecordSetImpl.h"
+#include "homebanking/BankingXML.h"
+#include "homebanking/ImportHomeBankingData.h"
+#include "homebanking/XmlImportData.h"
 #include "qif/ImportModuleQIF.h"
 
 // Hosts were built against these tables: a virtual operation that moves calls
@@ -131,9 +135,19 @@ TEST(VirtualSlots, OfThePreviewAreTheReadingSide) {
     EXPECT_EQ(of(&ImportRecordSetImpl::setString), VirtualSlot::kNotVirtual);
 }
 
-TEST(VirtualSlots, OfTheFrontDoorAreItsDestructorAlone) {
+TEST(VirtualSlots, OfTheFrontDoorsAreTheirDestructorsAlone) {
     EXPECT_TRUE(std::has_virtual_destructor_v<ImportExternData>);
     EXPECT_EQ(count<ImportExternData>(), 2);
+    EXPECT_TRUE(std::has_virtual_destructor_v<ImportHomeBankingData>);
+    EXPECT_EQ(count<ImportHomeBankingData>(), 2);
+    EXPECT_FALSE(std::is_polymorphic_v<ImportInputParams>);
+    EXPECT_FALSE(std::is_polymorphic_v<XmlImportData>);
+}
+
+TEST(VirtualSlots, OfTheHomeBankingReaderAreThoseOfItsBase) {
+    EXPECT_EQ(of(&BankingXML::getErrorMsg), 2);
+    EXPECT_EQ(count<BankingXML>(), 3);
+    EXPECT_TRUE((std::is_base_of_v<ImportIntoDMHelper, BankingXML>));
 }
 
 TEST(VirtualSlots, ClassesHaveOneBaseEachSoThatOneTableServesAll) {
