@@ -85,8 +85,6 @@ void FileImport::judge(const RunOutcome& outcome, const ModelWatch& watch, const
     const bool stopped = !m_reading.traits().recordPerLine && m_report.refusedCount > 0;
     const bool nothing = m_report.refusedCount > 0 && m_report.importedCount == 0;
     m_failed = m_failed || stopped || nothing;
-    if (nothing && m_reading.foundDelimiter())
-        m_report.messages.push_back(Message::of(Problem::delimiterFound, {m_reading.delimiterText()}));
     if (watch.refusedBookkeeping())
         fail(Message::of(Problem::bookkeepingRefused, {*watch.refusedBookkeeping()}));
     if (outcome.result != 0)
@@ -97,6 +95,8 @@ void FileImport::judge(const RunOutcome& outcome, const ModelWatch& watch, const
         m_failed = true;
     noteUndated(watch, added);
     countRecords(watch);
+    if (const std::optional<Message> doubt = m_reading.doubtOfDelimiter(); doubt && m_failed)
+        m_report.messages.push_back(*doubt);
     std::stable_sort(m_report.messages.begin(), m_report.messages.end(),
                      [](const Message& a, const Message& b) { return a.line < b.line; });
 }

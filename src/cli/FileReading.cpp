@@ -14,6 +14,7 @@
 namespace {
 
 constexpr std::size_t kMostExcerpt = 4094;
+constexpr char kNoDelimiter = '\x01';
 
 } // namespace
 
@@ -24,7 +25,7 @@ FileReading::FileReading(const std::string& argument, const ReadingOptions& opti
         examine();
     } catch (const std::system_error& error) {
         m_messages.push_back(
-            Message::of(Problem::tempUnusable, {TemporaryFolder::parent(), systemText(error.code().value())}));
+            Message::of(Problem::tempUnusable, {ScratchFolder::parent(), systemText(error.code().value())}));
         m_mayBeAsked = false;
     }
 }
@@ -84,10 +85,19 @@ void FileReading::findDelimiter() {
     LibraryRun run;
     RunRequest request = m_request;
     request.columns = nullptr;
+    request.delimiter = kNoDelimiter;
     const DataManager scratch;
     run.run(request, scratch.root());
-    m_request.delimiter = run.bestDelimiter();
-    m_foundDelimiter = true;
+    const bool found = run.bestDelimiter() != kNoDelimiter; // what was asked with comes back where nothing was found
+    m_delimiterDoubt = found ? Problem::delimiterFound : Problem::delimiterUnknown;
+    if (found)
+        m_request.delimiter = run.bestDelimiter();
+}
+
+std::optional<Message> FileReading::doubtOfDelimiter() const {
+    if (!m_delimiterDoubt)
+        return std::nullopt;
+    return Message::of(*m_delimiterDoubt, {delimiterText()});
 }
 
 std::string FileReading::delimiterText() const {

@@ -27,8 +27,9 @@ public:
     char delimiter() const { return m_request.delimiter; }
     /// UTF-8; "tab" for the tab.
     std::string delimiterText() const;
-    /// Whether a simulated run decided on the delimiter.
-    bool foundDelimiter() const { return m_foundDelimiter; }
+    /// What is to be said of the delimiter when the file turns out to be
+    /// unreadable with it; nothing where the person named it.
+    std::optional<Message> doubtOfDelimiter() const;
     /// Where its columns lie, as far as that is known; else null.
     const ColumnAssignment* columns() const;
     bool isVerbatim() const { return m_options.verbatim; }
@@ -63,5 +64,5 @@ private:
     RunRequest m_request;
     std::vector<Message> m_messages;
     bool m_mayBeAsked = false;
-    bool m_foundDelimiter = false;
+    std::optional<Problem> m_delimiterDoubt;
 };

@@ -60,7 +60,7 @@ InputFile::InputFile(const std::string& argument) : m_argument(argument), m_path
     try {
         look();
     } catch (const std::system_error& error) {
-        m_problem = Message::of(Problem::tempUnusable, {TemporaryFolder::parent(), systemText(error.code().value())});
+        m_problem = Message::of(Problem::tempUnusable, {ScratchFolder::parent(), systemText(error.code().value())});
     }
 }
 
@@ -119,9 +119,9 @@ void InputFile::copy(int source) {
     m_mayBeAsked = true;
 }
 
-TemporaryFolder& InputFile::folder() {
+ScratchFolder& InputFile::folder() {
     if (m_folder == nullptr)
-        m_folder = std::make_unique<TemporaryFolder>();
+        m_folder = std::make_unique<ScratchFolder>();
     return *m_folder;
 }
 

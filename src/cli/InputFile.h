@@ -7,7 +7,7 @@
 #include <string>
 
 #include "cli/Message.h"
-#include "cli/TemporaryFolder.h"
+#include "cli/ScratchFolder.h"
 #include "framework/E_SupportedImportFormats.h"
 
 /// A file as the person named it, and the way on which the library reaches it.
@@ -39,11 +39,11 @@ public:
 private:
     void look();
     void copy(int source);
-    TemporaryFolder& folder();
+    ScratchFolder& folder();
 
     std::string m_argument;
     std::string m_path;
     std::optional<Message> m_problem;
     bool m_mayBeAsked = false;
-    std::unique_ptr<TemporaryFolder> m_folder;
+    std::unique_ptr<ScratchFolder> m_folder;
 };

@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/MessageText.h"
 
-#include <algorithm>
 #include <cstddef>
+#include <map>
 #include <set>
 
 #include "cli/Color.h"
@@ -13,7 +13,10 @@
 namespace {
 
 constexpr std::size_t kMostExcerpt = 160; // columns
+constexpr std::size_t kMostInFull = 20;   // messages of one file
 constexpr const char* kIndent = "    ";
+
+using MessageIterator = std::vector<Message>::const_iterator;
 
 std::string label(Severity severity, bool color) {
     return severity == Severity::error ? colored("Fehler:", Color::red, color)
@@ -47,6 +50,42 @@ std::string excerpt(const Message& message, bool color) {
     return text;
 }
 
+void appendHint(std::string& text, const ProblemTexts& texts, std::set<Problem>& hinted) {
+    if (*texts.hint != '\0' && hinted.insert(texts.problem).second)
+        text += "  Hinweis: " + std::string(texts.hint) + "\n";
+}
+
+/// "7-12, 14": ascending numbers.
+std::string ranges(const std::vector<std::size_t>& numbers) {
+    std::string text;
+    for (std::size_t first = 0; first < numbers.size();) {
+        std::size_t last = first;
+        while (last + 1 < numbers.size() && numbers[last + 1] <= numbers[last] + 1)
+            ++last;
+        text += (text.empty() ? "" : ", ") + std::to_string(numbers[first]);
+        if (last != first)
+            text += "-" + std::to_string(numbers[last]);
+        first = last + 1;
+    }
+    return text;
+}
+
+/// Those that are too many to be told one by one: their lines, by problem.
+std::string remainder(std::string_view file, MessageIterator at, MessageIterator end, std::set<Problem>& hinted,
+                      bool color) {
+    std::map<Problem, std::vector<std::size_t>> lines;
+    for (; at != end; ++at)
+        lines[at->problem].push_back(at->line.value_or(0));
+    std::string text;
+    for (const auto& [problem, numbers] : lines) {
+        const ProblemTexts& texts = ProblemTexts::of(problem);
+        text += SafeText::printable(file) + ": " + label(texts.severity, color) + " ebenso die Zeilen " +
+                ranges(numbers) + " [" + texts.code + "]\n";
+        appendHint(text, texts, hinted);
+    }
+    return text;
+}
+
 } // namespace
 
 namespace MessageText {
@@ -54,7 +93,10 @@ namespace MessageText {
 std::string render(std::string_view file, const std::vector<Message>& messages, bool color) {
     std::string text;
     std::set<Problem> hinted;
+    std::size_t told = 0;
     for (auto at = messages.begin(); at != messages.end();) {
+        if (at->line && ++told > kMostInFull)
+            return text + remainder(file, at, messages.end(), hinted, color);
         auto end = at + 1;
         while (end != messages.end() && continues(*at, *(end - 1), *end))
             ++end;
@@ -63,8 +105,7 @@ std::string render(std::string_view file, const std::vector<Message>& messages, 
                 SafeText::printable(at->text) + " [" + texts.code + "]\n";
         if (!at->excerpt.empty() && end == at + 1)
             text += excerpt(*at, color);
-        if (*texts.hint != '\0' && hinted.insert(at->problem).second)
-            text += "  Hinweis: " + std::string(texts.hint) + "\n";
+        appendHint(text, texts, hinted);
         at = end;
     }
     return text;

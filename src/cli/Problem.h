@@ -15,6 +15,7 @@ enum class Problem {
     columnsMissing,
     columnOutside,
     delimiterFound,
+    delimiterUnknown,
     lineTooLong,
     nulByte,
     nulByteRead,

@@ -8,7 +8,8 @@
 #include "datamodel/TableNode.h"
 
 int NodeTable::create(unsigned short row) {
-    if (typeid(*this) != typeid(TableNode) || row != getNodeCount() + 1)
+    // Behind the last row the number wraps to 0; the table itself refuses it, and its observer hears of it.
+    if (typeid(*this) != typeid(TableNode) || row != static_cast<unsigned short>(getNodeCount() + 1))
         return 0;
     return static_cast<TableNode*>(this)->append() != nullptr ? 1 : 0;
 }

@@ -113,8 +113,9 @@ bool BankingXML::initXmldocument(QDomDocument& doc, const QByteArray& bytes) {
     QString message;
     int line = 0;
     int column = 0;
-    const bool wellFormed = doc.setContent(bytes, true, &message, &line, &column);
-    return wellFormed || refuseDocument(HostAccess::text(message).c_str());
+    if (doc.setContent(bytes, true, &message, &line, &column))
+        return true;
+    return refuseDocument(HostAccess::text(message).c_str());
 }
 
 bool BankingXML::getRootElement(QDomDocument& doc, int version, const char* tag, QDomElement& out) {
@@ -125,8 +126,10 @@ bool BankingXML::getRootElement(QDomDocument& doc, int version, const char* tag,
         m_errorMsg = kNoVersion;
         return false;
     }
+    const int majorNumber = text.left(point).toInt();
+    const QString name = out.localName();
     // A wrong name is reported as an unknown version, too; hosts know that text.
-    if (text.left(point).toInt() != version || out.localName() != QLatin1String(g_tagHomeBanking)) {
+    if (majorNumber != version || name != QLatin1String(g_tagHomeBanking)) {
         m_errorMsg = kUnknownVersion;
         return false;
     }

@@ -15,6 +15,10 @@ namespace {
 
 constexpr int kImportTypeHomeBanking = 6; // known to hosts as a bare number
 
+bool holds(const Node& account, const char* field, const std::string& text) {
+    return HostAccess::fieldText(account, field) == text;
+}
+
 } // namespace
 
 bool BankingXML::importKonten(const QDomElement& list) {
@@ -74,8 +78,8 @@ Node* BankingXML::getAccount(QString blz, QString ktonr) const {
     const unsigned count = table->getNodeCount();
     for (unsigned row = 1; row <= count; ++row) {
         Node* account = table->getNodeNum(static_cast<unsigned short>(row));
-        if (account != nullptr && HostAccess::fieldText(*account, AccountFields::kBankCode) == bankCode &&
-            HostAccess::fieldText(*account, AccountFields::kNumber) == number)
+        if (account != nullptr && holds(*account, AccountFields::kBankCode, bankCode) &&
+            holds(*account, AccountFields::kNumber, number))
             return account;
     }
     return nullptr;
@@ -102,8 +106,8 @@ bool BankingXML::writeImportAccountInfo(Node* account) {
     today = UtcClock::today();
     if (!NodeAccess::assignField(account, AccountFields::kLastImportDate, today))
         return false;
-    if (!m_lastBookingId.isEmpty() &&
-        !NodeAccess::assignField(account, AccountFields::kLastBookingId, HostAccess::textValue(m_lastBookingId)))
+    const DataType lastId = HostAccess::textValue(m_lastBookingId);
+    if (!m_lastBookingId.isEmpty() && !NodeAccess::assignField(account, AccountFields::kLastBookingId, lastId))
         return false;
     Node* newBookings = account->getNode(NDX(AccountFields::kNewBookings));
     if (newBookings == nullptr)

@@ -51,7 +51,9 @@ bool BankingXML::importBuchnungen(const QDomElement& list) {
     const QDomNodeList children = list.childNodes();
     for (int i = 0; i < children.count(); ++i) {
         const QDomNode buchung = children.item(i);
-        if (buchung.nodeName() != bookingTag || !importBuchnung(buchung, account))
+        if (buchung.nodeName() != bookingTag)
+            return false;
+        if (!importBuchnung(buchung, account))
             return false;
         ++m_count;
     }

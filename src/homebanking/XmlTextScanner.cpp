@@ -64,9 +64,9 @@ XmlTextScanner::Place XmlTextScanner::step(Place at, Place end) {
     case State::declaredValue:
         return readQuoted(at, end, State::declaration);
     case State::subset:
-        return readSubset(at, end);
+        break;
     }
-    return end;
+    return readSubset(at, end);
 }
 
 void XmlTextScanner::openMarkup(char16_t first) {

@@ -35,12 +35,6 @@ constexpr std::array<RowColumn, 7> kRowColumns = {{
 
 constexpr int kRowWidth = static_cast<int>(kRowColumns.size());
 
-std::string textOf(const RowColumn& column, const Record& record) {
-    if (column.text != nullptr)
-        return record.*column.text;
-    return record.m_date.asString();
-}
-
 } // namespace
 
 const char* const ImportModuleQIF::m_MyFileExtension = "qif";
@@ -89,20 +83,28 @@ bool ImportModuleQIF::processLine(char* line, Node* /*target*/) {
 }
 
 bool ImportModuleQIF::onImportAllDataSets(const ImportInputParams& /*params*/) {
-    return writeRow(nullptr) && std::all_of(m_dataSets.begin(), m_dataSets.end(),
-                                            [&](const ImportDataSet& dataSet) { return writeRow(&dataSet); });
+    return writeHeaderRow() && std::all_of(m_dataSets.begin(), m_dataSets.end(),
+                                           [&](const ImportDataSet& dataSet) { return writeDataSet(dataSet); });
 }
 
-bool ImportModuleQIF::writeRow(const ImportDataSet* dataSet) {
-    const bool header = dataSet == nullptr;
-    const RowInserter row = startRow(kRowWidth, header);
-    for (const RowColumn& column : kRowColumns) {
+bool ImportModuleQIF::writeHeaderRow() {
+    const RowInserter row = startRow(kRowWidth, true);
+    const bool stored = std::all_of(kRowColumns.begin(), kRowColumns.end(), [&](const RowColumn& column) {
         const char* name = getColumnNameForIndex(column.column);
-        const std::string value = header ? name : textOf(column, *dataSet);
-        if (!setColumnVal(row, name, value.c_str(), header))
+        return setColumnVal(row, name, name, true);
+    });
+    return stored && ImportFileBase::compelteRowProcessing(true);
+}
+
+bool ImportModuleQIF::writeDataSet(const ImportDataSet& dataSet) {
+    const std::string date = dataSet.m_date.asString();
+    const RowInserter row = startRow(kRowWidth, false);
+    for (const RowColumn& column : kRowColumns) {
+        const std::string& value = column.text != nullptr ? dataSet.*column.text : date;
+        if (!setColumnVal(row, getColumnNameForIndex(column.column), value.c_str(), false))
             return false;
     }
-    ImportFileBase::compelteRowProcessing(header); // a record without identifiers is kept, and not counted
+    ImportFileBase::compelteRowProcessing(false); // a record without identifiers is kept, and not counted
     return true;
 }
 

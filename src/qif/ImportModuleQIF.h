@@ -118,6 +118,6 @@ private:
     bool parseDate(const char* text);
     bool endRecord();
     void reportUnknownEntry(const char* line);
-    /// Null for the header row.
-    bool writeRow(const ImportDataSet* dataSet);
+    bool writeHeaderRow();
+    bool writeDataSet(const ImportDataSet& dataSet);
 };

@@ -10,7 +10,9 @@
 /// ends then. Once each: a blank inside a tab stays.
 inline std::string stripBlanks(const char* line) {
     std::string text = line;
-    for (const char blank : {' ', '\t'})
-        text = DMStringFunctions::strip(text, DMStringFunctions::eStripBoth, blank);
+    for (const char blank : {' ', '\t'}) {
+        if (!text.empty() && (text.front() == blank || text.back() == blank)) // stripping copies, and few lines need it
+            text = DMStringFunctions::strip(text, DMStringFunctions::eStripBoth, blank);
+    }
     return text;
 }

@@ -101,6 +101,8 @@ TEST_F(HostileDocumentsTest, HundredThousandAttributesOfHundredThousandElementsA
 TEST_F(HostileDocumentsTest, EntitiesOfModestSizeAreRead) {
     EXPECT_TRUE(updateAccounts(inSubset("<!ENTITY firma 'Meyer &amp; Co'>", namedAccount("&firma; KG"))));
     EXPECT_EQ(lastName(), "Meyer & Co KG");
+    EXPECT_TRUE(updateAccounts(inSubset("<!ENTITY leer ''>" + std::string(5000, ' '), namedAccount("a&leer;b"))));
+    EXPECT_EQ(lastName(), "ab");
     EXPECT_TRUE(updateAccounts(inSubset("<!ENTITY a 'x'><!ENTITY b '&a;&a;'>", namedAccount("&b;&b;"))));
     EXPECT_EQ(lastName(), "xxxx");
     EXPECT_TRUE(updateAccounts(

@@ -58,7 +58,9 @@ constexpr DepthCase kCases[] = {
     {u"<a><![CDATA[]>]] ><b/>]]></a>", 1, 0, "that hold parts of their end"},
     {u"<a><![CDATA[--><b/>]]></a>", 1, 0, "and other ends"},
     {u"<?xml version='1.0'?><a><?p <b><b> ?></a>", 1, 0, "processing instructions"},
-    {u"<a><?p ? > <b/> ?" u"?><c/></a>", 2, 0, "that hold parts of their end"},
+    {u"<a><?p ? > <b/> ?"
+     u"?><c/></a>",
+     2, 0, "that hold parts of their end"},
     {u"<!DOCTYPE a><a/>", 1, 0, "document types"},
     {u"<!DOCTYPE a SYSTEM 'x[<b><b>'><a/>", 1, 0, "quoted names in them"},
     {u"</a></a></a><b><b/></b>", 2, 0, "levels are never below none"},

@@ -10,14 +10,14 @@
 /// There is at most one at a time in a process.
 ///
 /// Its path is always Latin-1 that the library can be given.
-class TemporaryFolder {
+class ScratchFolder {
 public:
     /// Creates it in the folder that TMPDIR names, else in /tmp. Throws
     /// std::system_error.
-    TemporaryFolder();
-    ~TemporaryFolder();
-    TemporaryFolder(const TemporaryFolder&) = delete;
-    TemporaryFolder& operator=(const TemporaryFolder&) = delete;
+    ScratchFolder();
+    ~ScratchFolder();
+    ScratchFolder(const ScratchFolder&) = delete;
+    ScratchFolder& operator=(const ScratchFolder&) = delete;
 
     const std::string& path() const { return m_path; }
     /// The folder in which it lies.

@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ImportModule authors
 // SPDX-License-Identifier: MIT
-#include "cli/TemporaryFolder.h"
+#include "cli/ScratchFolder.h"
 
 #include <array>
 #include <atomic>
@@ -61,13 +61,13 @@ void watchSignals() {
 
 } // namespace
 
-std::string TemporaryFolder::parent() {
+std::string ScratchFolder::parent() {
     const char* named = std::getenv("TMPDIR");
     const bool usable = named != nullptr && *named != '\0' && HostText::utf8ToLatin1(named);
     return usable ? named : "/tmp";
 }
 
-TemporaryFolder::TemporaryFolder() : m_path(parent() + "/dmimport-XXXXXX") {
+ScratchFolder::ScratchFolder() : m_path(parent() + "/dmimport-XXXXXX") {
     if (g_exists)
         throw std::logic_error("one temporary folder at a time");
     watchSignals();
@@ -78,9 +78,9 @@ TemporaryFolder::TemporaryFolder() : m_path(parent() + "/dmimport-XXXXXX") {
     g_exists = true;
 }
 
-TemporaryFolder::~TemporaryFolder() { removeAll(); }
+ScratchFolder::~ScratchFolder() { removeAll(); }
 
-std::string TemporaryFolder::entry(std::string_view name) {
+std::string ScratchFolder::entry(std::string_view name) {
     const std::string path = m_path + "/" + std::string(name);
     const std::size_t count = g_entryCount;
     if (count == kMostEntries)
