@@ -5,148 +5,156 @@
 #include <algorithm>
 #include <optional>
 
-#include "intake/BookingRow.h"
+#include "intake/BalanceChain.h"
+#include "intake/BalanceNames.h"
 #include "intake/TextTools.h"
 
 namespace {
 
-struct Link {
-    Money amount;
-    Money balance;
-    int line;
-};
-
 /// A chain of balances is believed when hardly any link is broken.
 constexpr int kBreaksInAHundred = 5;
 
-struct Fit {
-    int steps = 0;
-    int fitting = 0;
-    int fittingSizes = 0; ///< steps whose amount fits but for its sign
-    std::vector<int> breaks;
-};
-
-Fit follow(const std::vector<Link>& links, bool newestFirst) {
-    Fit fit;
-    for (std::size_t i = 1; i < links.size(); ++i) {
-        const Link& before = newestFirst ? links[i] : links[i - 1];
-        const Link& after = newestFirst ? links[i - 1] : links[i];
-        const Money step = after.balance - before.balance;
-        ++fit.steps;
-        if (step == after.amount)
-            ++fit.fitting;
-        else
-            fit.breaks.push_back(links[i].line);
-        fit.fittingSizes += step.magnitude() == after.amount.magnitude() ? 1 : 0;
-    }
-    return fit;
-}
-
-bool holds(const Fit& fit) { return fit.steps > 0 && (fit.steps - fit.fitting) * 100 <= fit.steps * kBreaksInAHundred; }
-
-BalanceCheck checkRunningColumn(const std::vector<Link>& links) {
+BalanceCheck checkRunningColumn(const std::vector<BalanceChain::Link>& links) {
+    const BalanceChain chain = BalanceChain::follow(links);
     BalanceCheck result;
     result.runningColumn = true;
-    const Fit up = follow(links, false);
-    const Fit down = follow(links, true);
-    const bool newestFirst =
-        down.fitting != up.fitting ? down.fitting > up.fitting : down.fittingSizes > up.fittingSizes;
-    const Fit& fit = newestFirst ? down : up;
-    result.newestFirst = newestFirst;
-    result.steps = fit.steps;
-    result.fitting = fit.fitting;
-    if (holds(fit)) {
-        result.proof = fit.breaks.empty() ? BalanceProof::certified : BalanceProof::broken;
-        result.breaks = fit.breaks;
-    } else if (fit.steps >= 2 && fit.fittingSizes == fit.steps) {
+    result.newestFirst = chain.newestFirst;
+    result.steps = chain.steps;
+    result.fitting = chain.fitting;
+    if (chain.steps > 0 && (chain.steps - chain.fitting) * 100 <= chain.steps * kBreaksInAHundred) {
+        result.proof = chain.breaks.empty() ? BalanceProof::certified : BalanceProof::broken;
+        result.breaks = chain.breaks;
+    } else if (chain.steps >= 2 && chain.fittingSizes == chain.steps) {
         result.signsFromBalance = true;
         result.proof = BalanceProof::certified;
-    } else if (fit.fitting * 2 > fit.steps) {
+    } else if (chain.fitting * 2 > chain.steps) {
         result.proof = BalanceProof::broken;
-        result.breaks = fit.breaks;
+        result.breaks = chain.breaks;
     }
     return result;
 }
 
-/// The one amount of a record outside the bookings that could be a balance,
-/// with the sign that a word beside it gives.
-std::optional<Money> balanceOf(const RecordTable& table, std::size_t record, const TablePlan& plan) {
-    std::optional<Money> found;
-    std::optional<AmountCell::Sign> word;
+/// An amount outside the bookings that could be a balance, and what it is called.
+struct StatedBalance {
+    Money value;
+    std::optional<BalanceName> name;
+};
+
+/// The one amount of a record, with the sign that a word beside it gives.
+std::optional<StatedBalance> statedIn(const RecordTable& table, std::size_t record, char decimalMark) {
+    std::optional<StatedBalance> found;
+    std::optional<BalanceName> name;
+    bool debit = false;
     for (const std::string_view raw : table.cells(record)) {
         const std::string_view text = TextTools::trim(raw);
-        if (const auto amount = AmountCells::read(text, plan.decimalMark); amount && amount->marked) {
+        if (const auto amount = AmountCells::read(text, decimalMark); amount && amount->marked) {
             if (found)
                 return std::nullopt;
-            found = amount->value();
-        } else if (text == "S" || text == "H") {
-            word = text == "S" ? AmountCell::Sign::minus : AmountCell::Sign::plus;
+            found = StatedBalance{amount->value(), std::nullopt};
+        } else if (text == "S") {
+            debit = true;
+        } else if (!name) {
+            name = BalanceNames::read(text);
         }
     }
-    if (found && word == AmountCell::Sign::minus)
-        found = found->negated();
+    if (found) {
+        found->value = debit ? found->value.negated() : found->value;
+        found->name = name;
+    }
     return found;
 }
 
-BalanceCheck checkEnds(const RecordTable& table, const TablePlan& plan, const Money& sum, std::size_t firstBooking,
-                       std::size_t lastBooking) {
-    std::vector<Money> above;
-    std::vector<Money> below;
-    const std::size_t top = plan.region.header.value_or(plan.region.begin);
-    for (std::size_t i = 0; i < top; ++i) {
-        if (const auto balance = balanceOf(table, i, plan))
-            above.push_back(*balance);
+/// The balances around the bookings of a table.
+class Ends {
+public:
+    Ends(const RecordTable& table, const TablePlan& plan, std::size_t firstBooking, std::size_t lastBooking) {
+        const std::size_t top = plan.region.header.value_or(plan.region.begin);
+        for (std::size_t i = 0; i < top; ++i)
+            collect(table, i, plan, m_above);
+        for (std::size_t i = plan.region.begin; i < firstBooking; ++i)
+            collect(table, i, plan, m_above);
+        for (std::size_t i = lastBooking + 1; i < plan.region.end; ++i)
+            collect(table, i, plan, m_below);
     }
-    for (std::size_t i = plan.region.begin; i < plan.region.end; ++i) {
-        if (i > firstBooking && i < lastBooking)
-            continue;
-        const auto balance = i < firstBooking || i > lastBooking ? balanceOf(table, i, plan) : std::nullopt;
-        if (balance)
-            (i < firstBooking ? above : below).push_back(*balance);
+
+    /// Whether two of them differ by `sum`, the opening one first.
+    bool differBy(const Money& sum) const {
+        const auto reaches = [&](const StatedBalance& from, const StatedBalance& to) {
+            return &from != &to && from.value + sum == to.value;
+        };
+        for (const StatedBalance& to : m_below) {
+            if (std::any_of(m_above.begin(), m_above.end(), [&](const auto& from) { return reaches(from, to); }) ||
+                std::any_of(m_below.begin(), m_below.end(), [&](const auto& from) { return reaches(from, to); }))
+                return true;
+        }
+        return namedDifferBy(sum);
     }
+
+    /// The same for those that are called opening and closing balance.
+    bool namedDifferBy(const Money& sum) const {
+        const auto opening = named(BalanceName::opening);
+        const auto closing = named(BalanceName::closing);
+        return opening && closing && *opening + sum == *closing;
+    }
+
+private:
+    static void collect(const RecordTable& table, std::size_t record, const TablePlan& plan,
+                        std::vector<StatedBalance>& into) {
+        if (const auto balance = statedIn(table, record, plan.decimalMark))
+            into.push_back(*balance);
+    }
+
+    std::optional<Money> named(BalanceName name) const {
+        for (const auto* balances : {&m_above, &m_below}) {
+            for (const StatedBalance& balance : *balances) {
+                if (balance.name == name)
+                    return balance.value;
+            }
+        }
+        return std::nullopt;
+    }
+
+    std::vector<StatedBalance> m_above;
+    std::vector<StatedBalance> m_below;
+};
+
+BalanceCheck checkEnds(const Ends& ends, const Money& sum) {
     BalanceCheck result;
-    const auto matches = [&](const Money& opening, const Money& closing) {
-        result.steps = 1;
-        if (opening + sum == closing) {
-            result.fitting = 1;
-            result.proof = BalanceProof::certified;
-        }
-    };
-    for (const Money& opening : above) {
-        for (const Money& closing : below)
-            matches(opening, closing);
+    if (ends.differBy(sum)) {
+        result.proof = BalanceProof::certified;
+    } else if (ends.namedDifferBy(sum.negated())) {
+        result.proof = BalanceProof::certified;
+        result.signsInverted = true;
     }
-    for (std::size_t i = 0; i < below.size(); ++i) {
-        for (std::size_t j = 0; j < below.size(); ++j) {
-            if (i != j)
-                matches(below[i], below[j]);
-        }
-    }
-    return result; // what does not fit proves nothing: the balances may be of another day
+    // What does not fit proves nothing: the balances may be of another day.
+    result.fitting = result.proof == BalanceProof::certified ? 1 : 0;
+    result.steps = result.fitting;
+    return result;
 }
 
 } // namespace
 
 namespace BalanceChecks {
 
-BalanceCheck check(const RecordTable& table, const TablePlan& plan, int centuryWindow) {
-    std::vector<Link> links;
+BalanceCheck check(const RecordTable& table, const TablePlan& plan, const std::vector<BookingRow>& rows) {
+    std::vector<BalanceChain::Link> links;
     Money sum;
     std::optional<std::size_t> first;
     std::size_t last = plan.region.begin;
-    for (std::size_t i = plan.region.begin; i < plan.region.end; ++i) {
-        const BookingRow row = BookingRows::read(table, i, plan, centuryWindow);
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        const BookingRow& row = rows[i];
         if (row.kind != BookingRow::Kind::booking)
             continue;
-        first = first.value_or(i);
-        last = i;
+        const std::size_t record = plan.region.begin + i;
+        first = first.value_or(record);
+        last = record;
         sum = sum + *row.amount;
         if (row.balance)
-            links.push_back({*row.amount, *row.balance, table.record(i).firstLine + 1});
+            links.push_back({*row.amount, *row.balance, table.record(record).firstLine + 1});
     }
     if (plan.roles.balance >= 0)
         return links.size() >= 2 ? checkRunningColumn(links) : BalanceCheck{};
-    return first ? checkEnds(table, plan, sum, *first, last) : BalanceCheck{};
+    return first ? checkEnds(Ends(table, plan, *first, last), sum) : BalanceCheck{};
 }
 
 } // namespace BalanceChecks

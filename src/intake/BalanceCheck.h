@@ -4,6 +4,7 @@
 
 #include <vector>
 
+#include "intake/BookingRow.h"
 #include "intake/RecordTable.h"
 #include "intake/TablePlan.h"
 
@@ -13,6 +14,7 @@ struct BalanceCheck {
     bool newestFirst = false;
     bool runningColumn = false;    ///< checked booking by booking; otherwise opening against closing balance
     bool signsFromBalance = false; ///< the sizes fit, the signs only as the balance has them
+    bool signsInverted = false;    ///< opening and closing balance fit when every sign is turned
     int steps = 0;                 ///< checked
     int fitting = 0;
     std::vector<int> breaks; ///< lines from 1 where the chain does not hold
@@ -22,7 +24,7 @@ namespace BalanceChecks {
 
 /// Checks balance before plus amount against balance after, line for line, in
 /// both directions of time; without a running column the opening and closing
-/// balances around the table.
-BalanceCheck check(const RecordTable& table, const TablePlan& plan, int centuryWindow);
+/// balances around the table. `rows` are those of the plan's region.
+BalanceCheck check(const RecordTable& table, const TablePlan& plan, const std::vector<BookingRow>& rows);
 
 } // namespace BalanceChecks

@@ -3,187 +3,209 @@
 #include "intake/BookingRow.h"
 
 #include <algorithm>
-#include <array>
-#include <string>
+#include <cstdlib>
 #include <string_view>
 
+#include "intake/BalanceNames.h"
+#include "intake/Dates.h"
 #include "intake/SignWords.h"
+#include "intake/StatusWords.h"
 #include "intake/TextTools.h"
 
 namespace {
 
-std::string_view cellText(const RecordTable& table, std::size_t record, int column) {
-    return TextTools::trim(table.cell(record, column));
-}
-
-constexpr std::array<std::string_view, 19> kBalanceWords = {
-    "saldo",     "anfangssaldo",    "endsaldo",         "kontostand",       "balance",
-    "solde",     "opening balance", "anfangsstand",     "closing balance",  "summe",
-    "gesamt",    "total",           "totale",           "gesamtsumme",      "endstand",
-    "uebertrag", "zwischensumme",   "neuer kontostand", "alter kontostand",
-};
-
-/// The whole cell names a balance of the account.
-bool isBalanceName(std::string_view cell) {
-    constexpr std::array<std::string_view, 18> kNames = {
-        "anfangssaldo",      "endsaldo",       "kontostand",      "neuer kontostand",
-        "alter kontostand",  "saldovortrag",   "opening balance", "closing balance",
-        "starting balance",  "ending balance", "uebertrag",       "saldo",
-        "solde initial",     "solde final",    "saldo iniziale",  "saldo finale",
-        "beginning balance", "schlusssaldo",
-    };
-    const std::string_view text = TextTools::trim(cell);
-    return text.size() <= 30 && std::find(kNames.begin(), kNames.end(), TextTools::fold(text)) != kNames.end();
-}
-
-/// The year that puts a date without one closest to the day beside it.
-std::optional<Day> withYearOf(const DateCell& date, DateOrder order, const Day& beside) {
-    std::optional<Day> best;
-    for (const int year : {beside.year, beside.year - 1, beside.year + 1}) {
-        const auto day = date.day(order, 0, year);
-        const auto distance = [&](const Day& d) { return std::abs(d.number() - beside.number()); };
-        if (day && (!best || distance(*day) < distance(*best)))
-            best = day;
-    }
-    return best;
-}
-
+/// A cell that was to hold an amount.
 struct AmountReading {
     bool filled = false;
     std::optional<Money> value;
 };
 
-AmountReading readAmount(const RecordTable& table, std::size_t record, const TablePlan& plan) {
-    const ColumnRoles& roles = plan.roles;
-    AmountReading reading;
-    const auto read = [&](int column) {
-        const std::string_view text = cellText(table, record, column);
-        reading.filled = reading.filled || !text.empty();
-        return text.empty() ? std::nullopt : AmountCells::read(text, plan.decimalMark);
-    };
-    if (plan.sign == SignRule::twoColumns) {
-        const auto debit = read(roles.debit);
-        const auto credit = read(roles.credit);
-        const bool useDebit = debit && (!credit || credit->magnitude.isZero());
-        if (useDebit)
-            reading.value = plan.debitIsNegative ? debit->value() : debit->value().negated();
-        else if (credit && (!debit || debit->magnitude.isZero()))
-            reading.value = credit->value();
+class RowReader {
+public:
+    RowReader(const RecordTable& table, const TablePlan& plan) : m_table(table), m_plan(plan), m_roles(plan.roles) {}
+
+    BookingRow read(std::size_t record) {
+        m_record = record;
+        BookingRow row;
+        if (m_table.record(record).blank) {
+            row.kind = BookingRow::Kind::blank;
+            return row;
+        }
+        const std::string_view dateText = cell(m_roles.date);
+        const AmountReading amount = readAmount();
+        row.day = readDay(dateText);
+        row.amount = amount.value;
+        if (m_roles.balance >= 0)
+            row.balance = readMoney(cell(m_roles.balance));
+        row.kind = kindOf(row, amount.filled, dateText);
+        return row;
+    }
+
+private:
+    using Kind = BookingRow::Kind;
+
+    std::string_view cell(int column) const { return TextTools::trim(m_table.cell(m_record, column)); }
+
+    std::optional<Day> readDay(std::string_view text) const {
+        const auto date = text.empty() ? std::nullopt : DateCells::read(text);
+        if (!date)
+            return std::nullopt;
+        if (date->form != DateCell::Form::dayMonth)
+            return date->day(m_plan.dateOrder, m_plan.centuryWindow);
+        const auto beside = DateCells::read(cell(m_roles.yearSource));
+        if (const auto day = beside ? beside->day(m_plan.dateOrder, m_plan.centuryWindow) : std::nullopt)
+            return closestTo(*date, *day);
+        return m_plan.lastDay ? lastUpTo(*date, *m_plan.lastDay) : std::nullopt;
+    }
+
+    /// In the year that puts it closest to the day beside it.
+    std::optional<Day> closestTo(const DateCell& date, const Day& beside) const {
+        std::optional<Day> best;
+        const auto distance = [&](const Day& d) { return std::abs(d.number() - beside.number()); };
+        for (const int year : {beside.year, beside.year - 1, beside.year + 1}) {
+            const auto day = date.day(m_plan.dateOrder, m_plan.centuryWindow, year);
+            if (day && (!best || distance(*day) < distance(*best)))
+                best = day;
+        }
+        return best;
+    }
+
+    /// In the year before the statement ended.
+    std::optional<Day> lastUpTo(const DateCell& date, const Day& end) const {
+        for (const int year : {end.year, end.year - 1}) {
+            const auto day = date.day(m_plan.dateOrder, m_plan.centuryWindow, year);
+            if (day && *day <= end)
+                return day;
+        }
+        return std::nullopt;
+    }
+
+    std::optional<Money> readMoney(std::string_view text) const {
+        const auto amount = text.empty() ? std::nullopt : AmountCells::read(text, m_plan.decimalMark);
+        // "1.234" in a column of "1.5": a thousand, or a slip. Nobody counts in thousandths.
+        if (!amount || (amount->thousand && !m_plan.markByUser))
+            return std::nullopt;
+        return amount->value();
+    }
+
+    AmountReading readAmount() const {
+        AmountReading reading;
+        const auto read = [&](int column) {
+            const std::string_view text = cell(column);
+            reading.filled = reading.filled || !text.empty();
+            return readMoney(text);
+        };
+        if (m_plan.sign == SignRule::twoColumns) {
+            const auto debit = read(m_roles.debit);
+            const auto credit = read(m_roles.credit);
+            if (debit && (!credit || credit->isZero()) && readableOrEmpty(m_roles.credit, credit))
+                reading.value = m_plan.debitIsNegative ? *debit : debit->negated();
+            else if (credit && (!debit || debit->isZero()) && readableOrEmpty(m_roles.debit, debit))
+                reading.value = *credit;
+            return reading;
+        }
+        reading.value = read(m_roles.amount);
+        if (reading.value && (m_plan.sign == SignRule::signColumn || m_plan.sign == SignRule::kindOfBooking)) {
+            const std::string_view word = cell(m_roles.sign);
+            const auto sign = m_plan.sign == SignRule::signColumn ? SignWords::read(word) : SignWords::ofKind(word);
+            if (!sign)
+                reading.value.reset();
+            else if (*sign == AmountCell::Sign::minus)
+                reading.value = reading.value->negated();
+        }
         return reading;
     }
-    const auto amount = read(roles.amount);
-    if (!amount)
-        return reading;
-    switch (plan.sign) {
-    case SignRule::signColumn:
-        if (const auto sign = SignWords::read(cellText(table, record, roles.sign)))
-            reading.value = *sign == AmountCell::Sign::minus ? amount->value().negated() : amount->value();
-        break;
-    case SignRule::inverted:
-        reading.value = amount->value().negated();
-        break;
-    case SignRule::asWritten:
-    case SignRule::twoColumns:
-    case SignRule::fromBalance:
-        reading.value = amount->value();
-        break;
+
+    bool readableOrEmpty(int column, const std::optional<Money>& value) const { return value || cell(column).empty(); }
+
+    Kind kindOf(const BookingRow& row, bool amountFilled, std::string_view dateText) const {
+        if (row.day && row.amount)
+            return kindOfBooking();
+        if (row.day) {
+            if (BalanceNames::mentionedIn(m_table, m_record))
+                return Kind::balance;
+            return amountFilled ? Kind::badAmount : Kind::noAmount;
+        }
+        if (amountFilled) {
+            const bool hasDigits = std::any_of(dateText.begin(), dateText.end(), TextTools::isDigit);
+            if (row.amount && !hasDigits && StatusWords::read(dateText) == BookingStatus::pending)
+                return Kind::pending; // "offen" where the day will be
+            if (BalanceNames::mentionedIn(m_table, m_record))
+                return Kind::balance;
+            if (!row.amount)
+                return Kind::other;
+            return dateText.empty() ? Kind::noDate : hasDigits ? Kind::badDate : Kind::wordForDate;
+        }
+        return dateText.empty() && continuesText() ? Kind::continuation : Kind::other;
     }
-    return reading;
-}
 
-bool saysPending(std::string_view cell) {
-    constexpr std::array<std::string_view, 8> kWords = {"vorgemerkt", "vormerk", "pending",    "nicht gebucht",
-                                                        "not booked", "offen",   "ausstehend", "en attente"};
-    const std::string status = TextTools::fold(cell);
-    return std::any_of(kWords.begin(), kWords.end(),
-                       [&](std::string_view word) { return status.find(word) != std::string::npos; });
-}
+    Kind kindOfBooking() const {
+        if (hasTooManyFields())
+            return Kind::tooManyFields;
+        const auto status = m_roles.status >= 0 ? StatusWords::read(cell(m_roles.status)) : std::nullopt;
+        if (status == BookingStatus::pending)
+            return Kind::pending;
+        if (status == BookingStatus::failed)
+            return Kind::failed;
+        return isBalanceLine() ? Kind::balance : Kind::booking;
+    }
 
-/// Text in the columns of texts and nothing in those of date and amount.
-bool continuesText(const RecordTable& table, std::size_t record, const ColumnRoles& roles) {
-    const auto hasText = [&](int column) { return !cellText(table, record, column).empty(); };
-    const bool any = std::any_of(roles.purpose.begin(), roles.purpose.end(), hasText) || hasText(roles.postingText);
-    return any && table.record(record).cellCount > roles.date && table.record(record).cellCount * 2 >= roles.width;
-}
-
-/// "Endsaldo" where a currency or a reference should be, and nobody paid and for
-/// nothing: a balance in the clothes of a booking.
-bool isBalanceLine(const RecordTable& table, std::size_t record, const ColumnRoles& roles) {
-    constexpr std::size_t kCurrencyCode = 3;
-    const auto named = [&](int column) {
-        const std::string_view text = cellText(table, record, column);
-        return column >= 0 && text.size() > kCurrencyCode && !isBalanceName(text);
-    };
-    if (named(roles.counterparty) || named(roles.recipient) || named(roles.payer) ||
-        std::any_of(roles.purpose.begin(), roles.purpose.end(), named))
+    /// Fields behind the last one, where a value that counts stands behind a text.
+    bool hasTooManyFields() const {
+        const int count = m_table.record(m_record).cellCount;
+        if (m_roles.fullWidth <= 0 || count <= m_roles.fullWidth || m_roles.firstText < 0)
+            return false;
+        const int lastValue = std::max({m_roles.date, m_roles.amount, m_roles.debit, m_roles.credit, m_roles.sign});
+        if (lastValue < m_roles.firstText)
+            return false;
+        for (int column = m_roles.fullWidth; column < count; ++column) {
+            if (!cell(column).empty())
+                return true;
+        }
         return false;
-    const auto cells = table.cells(record);
-    return std::any_of(cells.begin(), cells.end(), isBalanceName);
-}
+    }
+
+    /// "Endsaldo" where a currency or a reference should be, and nobody paid and for
+    /// nothing: a balance in the clothes of a booking.
+    bool isBalanceLine() const {
+        constexpr std::size_t kCurrencyCode = 3;
+        const auto named = [&](int column) {
+            const std::string_view text = cell(column);
+            return column >= 0 && text.size() > kCurrencyCode && !BalanceNames::read(text);
+        };
+        if (named(m_roles.counterparty) || named(m_roles.recipient) || named(m_roles.payer) ||
+            std::any_of(m_roles.purpose.begin(), m_roles.purpose.end(), named))
+            return false;
+        const auto cells = m_table.cells(m_record);
+        return std::any_of(cells.begin(), cells.end(), [](auto text) { return BalanceNames::read(text).has_value(); });
+    }
+
+    /// Text in the columns of texts and nothing in those of date and amount.
+    bool continuesText() const {
+        const auto hasText = [&](int column) { return !cell(column).empty(); };
+        const bool any =
+            std::any_of(m_roles.purpose.begin(), m_roles.purpose.end(), hasText) || hasText(m_roles.postingText);
+        const int count = m_table.record(m_record).cellCount;
+        return any && count > m_roles.date && count * 2 >= m_roles.width;
+    }
+
+    const RecordTable& m_table;
+    const TablePlan& m_plan;
+    const ColumnRoles& m_roles;
+    std::size_t m_record = 0;
+};
 
 } // namespace
 
 namespace BookingRows {
 
-bool mentionsBalance(const RecordTable& table, std::size_t record) {
-    for (const std::string_view cell : table.cells(record)) {
-        if (cell.size() > 60)
-            continue;
-        const std::string folded = TextTools::fold(cell);
-        for (const std::string_view word : kBalanceWords) {
-            if (folded == word ||
-                (folded.starts_with(word) && folded.size() > word.size() && folded[word.size()] == ' '))
-                return true;
-        }
-    }
-    return false;
-}
-
-BookingRow read(const RecordTable& table, std::size_t record, const TablePlan& plan, int centuryWindow) {
-    using Kind = BookingRow::Kind;
-    const ColumnRoles& roles = plan.roles;
-    BookingRow row;
-    if (table.record(record).blank) {
-        row.kind = Kind::blank;
-        return row;
-    }
-    const std::string_view dateText = cellText(table, record, roles.date);
-    const auto date = dateText.empty() ? std::nullopt : DateCells::read(dateText);
-    if (date && date->form == DateCell::Form::dayMonth) {
-        const auto beside = DateCells::read(cellText(table, record, roles.yearSource));
-        if (const auto day = beside ? beside->day(plan.dateOrder, centuryWindow) : std::nullopt)
-            row.day = withYearOf(*date, plan.dateOrder, *day);
-    } else if (date) {
-        row.day = date->day(plan.dateOrder, centuryWindow);
-    }
-    const AmountReading amount = readAmount(table, record, plan);
-    row.amount = amount.value;
-    if (const auto balance = AmountCells::read(cellText(table, record, roles.balance), plan.decimalMark))
-        row.balance = balance->value();
-
-    if (row.day && row.amount && isBalanceLine(table, record, roles)) {
-        row.kind = Kind::balance;
-    } else if (row.day && row.amount) {
-        row.kind = saysPending(cellText(table, record, roles.status)) ? Kind::pending : Kind::booking;
-    } else if (row.day) {
-        if (mentionsBalance(table, record))
-            row.kind = Kind::balance;
-        else
-            row.kind = amount.filled ? Kind::badAmount : Kind::noAmount;
-    } else if (row.amount || amount.filled) {
-        const bool hasDigits = std::any_of(dateText.begin(), dateText.end(), TextTools::isDigit);
-        if (row.amount && !hasDigits && saysPending(dateText))
-            row.kind = Kind::pending; // "offen" where the day will be
-        else if (mentionsBalance(table, record) || (!dateText.empty() && !hasDigits))
-            row.kind = Kind::balance;
-        else if (!row.amount)
-            row.kind = Kind::other;
-        else
-            row.kind = dateText.empty() ? Kind::noDate : Kind::badDate;
-    } else if (dateText.empty() && continuesText(table, record, roles)) {
-        row.kind = Kind::continuation;
-    }
-    return row;
+std::vector<BookingRow> read(const RecordTable& table, const TablePlan& plan) {
+    std::vector<BookingRow> rows;
+    rows.reserve(plan.region.end - plan.region.begin);
+    RowReader reader(table, plan);
+    for (std::size_t record = plan.region.begin; record < plan.region.end; ++record)
+        rows.push_back(reader.read(record));
+    return rows;
 }
 
 } // namespace BookingRows

@@ -3,8 +3,9 @@
 #pragma once
 
 #include <optional>
+#include <vector>
 
-#include "intake/Dates.h"
+#include "intake/Day.h"
 #include "intake/Money.h"
 #include "intake/RecordTable.h"
 #include "intake/TablePlan.h"
@@ -14,15 +15,18 @@ struct BookingRow {
     enum class Kind {
         booking,
         pending,      ///< not booked yet
+        failed,       ///< declined or cancelled: never booked
         continuation, ///< further text of the booking before
         balance,      ///< an opening or closing balance, a total
         blank,
-        badDate,   ///< an amount, but a date that cannot be read
-        badAmount, ///< a date, but an amount that cannot be read
-        noAmount,  ///< a date and no amount at all
-        noSign,    ///< an amount whose sign the balance should tell and cannot
-        noDate,    ///< an amount and no date at all
-        other      ///< no booking
+        badDate,       ///< an amount, but a date that cannot be read
+        badAmount,     ///< a date, but an amount that cannot be read
+        noAmount,      ///< a date and no amount at all
+        noSign,        ///< an amount whose sign the balance should tell and cannot
+        noDate,        ///< an amount and no date at all
+        wordForDate,   ///< an amount, and a word where the date should be
+        tooManyFields, ///< a delimiter inside a text moved the fields behind it
+        other          ///< no booking
     };
 
     Kind kind = Kind::other;
@@ -33,10 +37,8 @@ struct BookingRow {
 
 namespace BookingRows {
 
-/// Reads a record; the sign rule `fromBalance` leaves the amount as written.
-BookingRow read(const RecordTable& table, std::size_t record, const TablePlan& plan, int centuryWindow);
-
-/// Whether a text speaks of a balance or a total.
-bool mentionsBalance(const RecordTable& table, std::size_t record);
+/// Reads the records of the plan's region, one element each. Under the sign
+/// rules `inverted` and `fromBalance` the amounts are left as written.
+std::vector<BookingRow> read(const RecordTable& table, const TablePlan& plan);
 
 } // namespace BookingRows

@@ -11,18 +11,35 @@
 
 namespace {
 
+std::string_view takeUpTo(std::string_view& text, char end) {
+    const std::size_t at = std::min(text.find(end), text.size());
+    const std::string_view piece = text.substr(0, at);
+    text.remove_prefix(std::min(at + 1, text.size()));
+    return TextTools::trim(piece);
+}
+
 std::string_view nextWord(std::string_view& line) {
     line = TextTools::trim(line);
-    const std::size_t end = std::min(line.find(' '), line.size());
-    const std::string_view word = line.substr(0, end);
-    line.remove_prefix(end);
-    return word;
+    return takeUpTo(line, ' ');
 }
 
 constexpr std::array<std::string_view, 16> kUnits = {"eur", "euro", "chf", "usd", "gbp", "sek", "nok", "dkk",
                                                      "pln", "czk",  "huf", "aud", "cad", "jpy", "dm",  "ats"};
 
 bool isUnit(std::string_view word) { return std::find(kUnits.begin(), kUnits.end(), word) != kUnits.end(); }
+
+/// A blank where "MerchantName" has a new word, or nothing where there is none.
+std::string withWordsApart(std::string_view name) {
+    const auto isCapital = [](char c) { return c >= 'A' && c <= 'Z'; };
+    const auto isSmall = [](char c) { return c >= 'a' && c <= 'z'; };
+    std::string out;
+    for (std::size_t i = 0; i < name.size(); ++i) {
+        if (i > 0 && isCapital(name[i]) && isSmall(name[i - 1]))
+            out += ' ';
+        out += name[i];
+    }
+    return out.size() == name.size() ? std::string() : out;
+}
 
 /// "betrag in eur" and "betrag eur" are both "betrag".
 std::string withoutUnits(std::string_view folded) {
@@ -41,6 +58,20 @@ std::string withoutUnits(std::string_view folded) {
     return out;
 }
 
+std::string_view withoutNumber(std::string_view word) {
+    while (!word.empty() && TextTools::isDigit(word.back()))
+        word.remove_suffix(1);
+    return word;
+}
+
+/// Whether `folded`, from `at` on, has the words of `name`; VWZ1 is VWZ: a
+/// number may follow a word at once.
+bool hasWordsAt(std::string_view folded, std::size_t at, std::string_view name) {
+    const std::size_t end = at + name.size();
+    return folded.substr(at, name.size()) == name &&
+           (end == folded.size() || folded[end] == ' ' || TextTools::isDigit(folded[end]));
+}
+
 } // namespace
 
 Role RoleScores::best() const {
@@ -54,63 +85,76 @@ const ColumnLexicon& ColumnLexicon::builtIn() {
 }
 
 ColumnLexicon::ColumnLexicon(std::string_view table) {
-    int number = 0;
-    while (!table.empty()) {
-        ++number;
-        const std::size_t end = std::min(table.find('\n'), table.size());
-        std::string_view line = TextTools::trim(table.substr(0, end));
-        table.remove_prefix(std::min(end + 1, table.size()));
-        if (line.empty() || line.front() == '#')
-            continue;
-        const auto role = Roles::parse(nextWord(line));
-        const std::string_view scoreText = nextWord(line);
-        int score = 0;
-        std::from_chars(scoreText.data(), scoreText.data() + scoreText.size(), score);
-        const std::string_view howText = nextWord(line);
-        const std::optional<How> how = howText == "exact"   ? std::optional(How::exact)
-                                       : howText == "words" ? std::optional(How::words)
-                                       : howText == "stem"  ? std::optional(How::stem)
-                                                            : std::nullopt;
-        if (!role || score <= 0 || !how || line.empty()) {
+    for (int number = 1; !table.empty(); ++number) {
+        const std::string_view line = takeUpTo(table, '\n');
+        if (!line.empty() && line.front() != '#' && !addLine(line))
             m_rejected.push_back(number);
-            continue;
-        }
-        while (!line.empty()) {
-            const std::size_t bar = std::min(line.find('|'), line.size());
-            m_entries.push_back({*role, score, *how, std::string(TextTools::trim(line.substr(0, bar)))});
-            line.remove_prefix(std::min(bar + 1, line.size()));
-        }
     }
 }
 
-bool ColumnLexicon::fits(const Entry& entry, std::string_view folded) {
-    switch (entry.how) {
+bool ColumnLexicon::addLine(std::string_view line) {
+    const auto role = Roles::parse(nextWord(line));
+    const std::string_view scoreText = nextWord(line);
+    int score = 0;
+    std::from_chars(scoreText.data(), scoreText.data() + scoreText.size(), score);
+    const std::string_view howText = nextWord(line);
+    const std::optional<How> how = howText == "exact"   ? std::optional(How::exact)
+                                   : howText == "words" ? std::optional(How::words)
+                                   : howText == "stem"  ? std::optional(How::stem)
+                                                        : std::nullopt;
+    if (!role || score <= 0 || !how || line.empty())
+        return false;
+    while (!line.empty()) {
+        std::string name = TextTools::fold(takeUpTo(line, '|'));
+        if (name.empty())
+            return false;
+        add(*how, {*role, score, std::move(name)});
+    }
+    return true;
+}
+
+void ColumnLexicon::add(How how, Entry entry) {
+    switch (how) {
     case How::exact:
-        return folded == entry.name;
-    case How::stem:
-        return folded.find(entry.name) != std::string_view::npos;
+        m_exact.emplace(entry.name, entry);
+        break;
     case How::words:
+        m_words.emplace(withoutNumber(std::string_view(entry.name).substr(0, entry.name.find(' '))), entry);
+        break;
+    case How::stem:
+        m_stems.push_back(std::move(entry));
         break;
     }
-    for (std::size_t at = folded.find(entry.name); at != std::string_view::npos; at = folded.find(entry.name, at + 1)) {
-        const std::size_t end = at + entry.name.size();
-        // VWZ1 is VWZ: a number may follow a word at once.
-        const bool ends = end == folded.size() || folded[end] == ' ' || TextTools::isDigit(folded[end]);
-        if ((at == 0 || folded[at - 1] == ' ') && ends)
-            return true;
-    }
-    return false;
 }
 
 RoleScores ColumnLexicon::scores(std::string_view columnName) const {
+    RoleScores result = scoresOf(withoutUnits(TextTools::fold(columnName)));
+    if (const std::string apart = withWordsApart(columnName); !apart.empty()) {
+        const RoleScores others = scoresOf(withoutUnits(TextTools::fold(apart)));
+        for (std::size_t i = 0; i < kRoleCount; ++i)
+            result.scores[i] = std::max(result.scores[i], others.scores[i]);
+    }
+    return result;
+}
+
+RoleScores ColumnLexicon::scoresOf(std::string_view folded) const {
     RoleScores result;
-    const std::string folded = withoutUnits(TextTools::fold(columnName));
-    if (folded.empty())
-        return result;
-    for (const Entry& entry : m_entries) {
+    const auto count = [&](const Entry& entry) {
         int& score = result.scores[static_cast<std::size_t>(entry.role)];
-        if (entry.score > score && fits(entry, folded))
-            score = entry.score;
+        score = std::max(score, entry.score);
+    };
+    for (auto [at, end] = m_exact.equal_range(folded); at != end; ++at)
+        count(at->second);
+    for (std::size_t at = 0; at < folded.size(); at = std::min(folded.find(' ', at), folded.size() - 1) + 1) {
+        const std::string_view word = folded.substr(at, folded.find(' ', at) - at);
+        for (auto [entry, end] = m_words.equal_range(withoutNumber(word)); entry != end; ++entry) {
+            if (hasWordsAt(folded, at, entry->second.name))
+                count(entry->second);
+        }
+    }
+    for (const Entry& stem : m_stems) {
+        if (folded.find(stem.name) != std::string::npos)
+            count(stem);
     }
     return result;
 }

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <array>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -35,11 +36,16 @@ private:
     struct Entry {
         Role role;
         int score;
-        How how;
         std::string name;
     };
-    static bool fits(const Entry& entry, std::string_view folded);
+    using ByText = std::multimap<std::string, Entry, std::less<>>;
 
-    std::vector<Entry> m_entries;
+    RoleScores scoresOf(std::string_view folded) const;
+    bool addLine(std::string_view line);
+    void add(How how, Entry entry);
+
+    ByText m_exact; ///< by the whole name
+    ByText m_words; ///< by the first of the words
+    std::vector<Entry> m_stems;
     std::vector<int> m_rejected;
 };

@@ -52,7 +52,10 @@ void count(ColumnProfile& profile, std::string_view raw) {
         profile.marked += sure ? 1 : 0;
         profile.negative += amount->sign == AmountCell::Sign::minus ? 1 : 0;
     }
-    profile.signWords += SignWords::read(text) ? 1 : 0;
+    profile.wordsOnly += std::none_of(text.begin(), text.end(), TextTools::isDigit) ? 1 : 0;
+    const auto mark = SignWords::read(text);
+    profile.minusWords += mark == AmountCell::Sign::minus ? 1 : 0;
+    profile.plusWords += mark == AmountCell::Sign::plus ? 1 : 0;
     profile.codes += looksLikeCode(text) ? 1 : 0;
 }
 

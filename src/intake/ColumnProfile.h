@@ -19,17 +19,21 @@ struct ColumnProfile {
     int dotAmounts = 0;
     int marked = 0; ///< amounts with a decimal mark, a currency or a sign
     int negative = 0;
-    int signWords = 0;      ///< words for debit or credit
+    int wordsOnly = 0;      ///< no digit in them
+    int minusWords = 0;     ///< marks for debit
+    int plusWords = 0;      ///< marks for credit
     int codes = 0;          ///< account numbers, IBANs and the like
     int distinct = 0;       ///< different values, counted up to a limit
     std::size_t length = 0; ///< bytes of all values
 
     int amounts() const { return commaAmounts > dotAmounts ? commaAmounts : dotAmounts; }
     bool isDate() const { return filled > 0 && dates * 10 >= filled * 7; }
+    /// Dates, and words such as "offen" where there is none yet.
+    bool isDateOrWord() const { return isDate() || (dates > 0 && dates + wordsOnly == filled); }
     bool isDayMonth() const { return filled > 0 && dayMonths * 10 >= filled * 8; }
     bool isCompactDate() const { return filled > 0 && digits8 * 10 >= filled * 9; }
     bool isAmount() const { return filled > 0 && amounts() * 10 >= filled * 6; }
-    bool isSignColumn() const { return filled > 0 && signWords * 10 >= filled * 9; }
+    bool isSignColumn() const { return filled > 0 && (minusWords + plusWords) * 10 >= filled * 9; }
     bool isCode() const { return filled > 0 && codes * 10 >= filled * 8; }
     bool isConstant() const { return rows > 1 && filled == rows && distinct == 1; }
     bool isText() const { return filled > 0 && !isDate() && !isAmount() && !isCompactDate() && !isCode(); }

@@ -4,8 +4,11 @@
 
 #include <algorithm>
 #include <array>
+#include <set>
+#include <string>
 #include <vector>
 
+#include "intake/DateSequence.h"
 #include "intake/TextTools.h"
 
 namespace {
@@ -32,78 +35,74 @@ std::optional<Day> dayOf(const DateCell& cell, DateOrder order, int centuryWindo
     return cell.day(order, centuryWindow, kAnyLeapYear);
 }
 
-std::vector<DateOrder> bestOrders(const std::vector<Seen>& dates, int centuryWindow) {
+/// The orders that read most of the dates.
+struct Candidates {
+    std::vector<DateOrder> orders;
+    bool contradicted = false; ///< there are dates that only the one, and dates that only the other reads
+};
+
+Candidates bestOrders(const std::vector<Seen>& dates, int centuryWindow) {
     std::array<std::size_t, kOrders.size()> valid{};
+    std::size_t readable = 0;
     for (const Seen& date : dates) {
-        for (std::size_t i = 0; i < kOrders.size(); ++i)
-            valid[i] += dayOf(date.cell, kOrders[i], centuryWindow) ? 1U : 0U;
+        bool any = false;
+        for (std::size_t i = 0; i < kOrders.size(); ++i) {
+            const bool reads = dayOf(date.cell, kOrders[i], centuryWindow).has_value();
+            valid[i] += reads ? 1U : 0U;
+            any = any || reads;
+        }
+        readable += any ? 1U : 0U;
     }
     const std::size_t most = *std::max_element(valid.begin(), valid.end());
-    std::vector<DateOrder> best;
+    Candidates best;
     for (std::size_t i = 0; i < kOrders.size(); ++i) {
         if (valid[i] == most && most > 0)
-            best.push_back(kOrders[i]);
+            best.orders.push_back(kOrders[i]);
     }
+    best.contradicted = most < readable;
     return best;
 }
 
-/// Whether the two orders mean the same day everywhere (05.05.2024).
-bool sameDays(const std::vector<Seen>& dates, DateOrder a, DateOrder b, int centuryWindow) {
-    return std::all_of(dates.begin(), dates.end(), [&](const Seen& date) {
-        return dayOf(date.cell, a, centuryWindow) == dayOf(date.cell, b, centuryWindow);
-    });
-}
-
-bool isSorted(const std::vector<int>& days) {
-    return std::is_sorted(days.begin(), days.end()) || std::is_sorted(days.rbegin(), days.rend());
-}
-
-std::vector<int> dayNumbers(const std::vector<Seen>& dates, DateOrder order, int centuryWindow) {
-    std::vector<int> numbers;
-    for (const Seen& date : dates) {
-        if (const auto day = dayOf(date.cell, order, centuryWindow))
-            numbers.push_back(day->number());
-    }
-    return numbers;
+bool contains(const std::vector<DateOrder>& orders, DateOrder order) {
+    return std::find(orders.begin(), orders.end(), order) != orders.end();
 }
 
 class Decider {
 public:
-    Decider(const RecordTable& table, const TablePlan& plan, int centuryWindow)
-        : m_table(table), m_plan(plan), m_window(centuryWindow), m_dates(datesOf(table, plan.region, plan.roles.date)) {
-    }
+    Decider(const RecordTable& table, const TablePlan& plan)
+        : m_table(table), m_plan(plan), m_window(plan.centuryWindow),
+          m_dates(datesOf(table, plan.region, plan.roles.date)) {}
 
     DateOrderDecision run() {
-        std::vector<DateOrder> orders = bestOrders(m_dates, m_window);
+        const Candidates candidates = bestOrders(m_dates, m_window);
+        const std::vector<DateOrder>& orders = candidates.orders;
         if (orders.empty())
             return m_decision;
+        const std::size_t first = m_dates.front().record;
         if (orders.size() == 1) {
             m_decision.proven = true;
             return decided(orders.front(), provingDate(orders.front()),
-                           "Nur in dieser Reihenfolge sind alle Daten gültig.");
+                           candidates.contradicted ? "In dieser Reihenfolge sind die meisten Daten gültig."
+                                                   : "Nur in dieser Reihenfolge sind alle Daten gültig.");
         }
-        const bool same = std::all_of(orders.begin() + 1, orders.end(), [&](DateOrder other) {
-            return sameDays(m_dates, orders.front(), other, m_window);
-        });
-        if (same) {
+        if (candidates.contradicted)
+            return undecided();
+        if (sameDays(orders)) {
             m_decision.proven = true;
-            return decided(orders.front(), m_dates.front().record, "Jede Reihenfolge ergibt dieselben Tage.");
+            return decided(orders.front(), first, "Jede Reihenfolge ergibt dieselben Tage.");
         }
-        if (std::find(orders.begin(), orders.end(), DateOrder::dayMonthYear) != orders.end() &&
+        const bool dayFirst = contains(orders, DateOrder::dayMonthYear);
+        if (dayFirst &&
             std::all_of(m_dates.begin(), m_dates.end(), [](const Seen& d) { return d.cell.separator == '.'; }))
-            return decided(DateOrder::dayMonthYear, m_dates.front().record,
-                           "Mit Punkten geschriebene Daten nennen den Tag zuerst.");
+            return decided(DateOrder::dayMonthYear, first, "Mit Punkten geschriebene Daten nennen den Tag zuerst.");
         if (const auto other = fromOtherDates(orders))
             return *other;
-        if (const auto sorted = fromSequence(orders))
-            return *sorted;
-        if (m_plan.decimalMark == ',' &&
-            std::find(orders.begin(), orders.end(), DateOrder::dayMonthYear) != orders.end())
-            return decided(DateOrder::dayMonthYear, m_dates.front().record,
+        if (dayFirst && m_plan.decimalMark == ',')
+            return decided(DateOrder::dayMonthYear, first,
                            "Wo ein Komma die Dezimalstellen abtrennt, steht der Tag vor dem Monat.");
-        m_decision.exampleLine = line(m_dates.front().record);
-        m_decision.example = TextTools::trim(m_table.cell(m_dates.front().record, m_plan.roles.date));
-        return m_decision;
+        if (const auto sequence = fromSequence(orders))
+            return *sequence;
+        return undecided();
     }
 
 private:
@@ -112,6 +111,12 @@ private:
     DateOrderDecision decided(DateOrder order, std::size_t record, const char* why) {
         m_decision.order = order;
         m_decision.reason = {line(record), m_plan.roles.date, why};
+        return m_decision;
+    }
+
+    DateOrderDecision undecided() {
+        m_decision.exampleLine = line(m_dates.front().record);
+        m_decision.example = TextTools::trim(m_table.cell(m_dates.front().record, m_plan.roles.date));
         return m_decision;
     }
 
@@ -127,6 +132,15 @@ private:
         return m_dates.front().record;
     }
 
+    /// Whether all of them mean the same day everywhere (05.05.2024).
+    bool sameDays(const std::vector<DateOrder>& orders) const {
+        return std::all_of(m_dates.begin(), m_dates.end(), [&](const Seen& date) {
+            const auto day = dayOf(date.cell, orders.front(), m_window);
+            return std::all_of(orders.begin(), orders.end(),
+                               [&](DateOrder order) { return dayOf(date.cell, order, m_window) == day; });
+        });
+    }
+
     /// Another column of dates (value dates, as a rule), or the dates above the table.
     std::optional<DateOrderDecision> fromOtherDates(const std::vector<DateOrder>& orders) {
         for (int column = 0; column < m_plan.roles.width; ++column) {
@@ -134,17 +148,18 @@ private:
                 continue;
             const auto dates = datesOf(m_table, m_plan.region, column);
             const auto best = bestOrders(dates, m_window);
-            if (dates.size() * 2 >= m_dates.size() && best.size() == 1 && contains(orders, best.front()) &&
-                dates.front().cell.separator == m_dates.front().cell.separator)
-                return decided(best.front(), dates.front().record, "Eine andere Datumsspalte zeigt die Reihenfolge.");
+            if (dates.size() * 2 >= m_dates.size() && best.orders.size() == 1 && !best.contradicted &&
+                contains(orders, best.orders.front()) && isAlike(dates.front()))
+                return decided(best.orders.front(), dates.front().record,
+                               "Eine andere Datumsspalte zeigt die Reihenfolge.");
         }
         const std::size_t first = m_plan.region.header.value_or(m_plan.region.begin);
         for (std::size_t i = 0; i < first; ++i) {
             for (const std::string_view cell : m_table.cells(i)) {
                 const auto date = DateCells::read(cell);
-                if (!date || date->separator != m_dates.front().cell.separator)
+                if (!date || !isAlike({*date, i}))
                     continue;
-                const auto best = bestOrders({{*date, i}}, m_window);
+                const auto best = bestOrders({{*date, i}}, m_window).orders;
                 if (best.size() == 1 && contains(orders, best.front()))
                     return decided(best.front(), i, "Ein Datum über der Tabelle zeigt die Reihenfolge.");
             }
@@ -152,37 +167,40 @@ private:
         return std::nullopt;
     }
 
-    /// Banks list bookings in order of time, and close together.
-    std::optional<DateOrderDecision> fromSequence(const std::vector<DateOrder>& orders) {
-        if (m_dates.size() < 2)
-            return std::nullopt;
-        // Two dates are close by chance more often than three.
-        const int ratio = m_dates.size() == 2 ? 20 : 4;
-        std::optional<DateOrder> best;
-        int bestSpan = 0;
-        bool close = false;
-        std::size_t sortedCount = 0;
-        for (const DateOrder order : orders) {
-            const auto numbers = dayNumbers(m_dates, order, m_window);
-            if (!isSorted(numbers))
-                continue;
-            ++sortedCount;
-            const int span = std::abs(numbers.back() - numbers.front());
-            close = best && std::min(span, bestSpan) * ratio > std::max(span, bestSpan);
-            if (!best || span < bestSpan) {
-                best = order;
-                bestSpan = span;
-            }
-        }
-        if (!best || close || (m_dates.size() == 2 && sortedCount == 1))
-            return std::nullopt;
-        return decided(*best, m_dates.front().record,
-                       sortedCount == 1 ? "Nur in dieser Reihenfolge stehen die Buchungen zeitlich geordnet."
-                                        : "In dieser Reihenfolge liegen die geordneten Buchungen eng beieinander.");
+    /// Dates written with the same mark are written in the same order.
+    bool isAlike(const Seen& date) const {
+        return date.cell.separator == m_dates.front().cell.separator && date.cell.form == m_dates.front().cell.form;
     }
 
-    static bool contains(const std::vector<DateOrder>& orders, DateOrder order) {
-        return std::find(orders.begin(), orders.end(), order) != orders.end();
+    /// Banks list bookings in order of time, and close together.
+    std::optional<DateOrderDecision> fromSequence(const std::vector<DateOrder>& orders) {
+        std::vector<DateSequence> sequences;
+        for (const DateOrder order : orders) {
+            std::vector<Day> days;
+            for (const Seen& date : m_dates) {
+                if (const auto day = dayOf(date.cell, order, m_window))
+                    days.push_back(*day);
+            }
+            sequences.emplace_back(order, std::move(days));
+        }
+        const auto winner = DateSequence::mostLikely(sequences, isVaried());
+        if (!winner)
+            return std::nullopt;
+        return decided(winner->order, m_dates.front().record, winner->why);
+    }
+
+    /// Whether the bookings are about different things: at least half as many as there are bookings.
+    bool isVaried() const {
+        std::vector<int> columns = m_plan.roles.purpose;
+        columns.insert(columns.end(), {m_plan.roles.counterparty, m_plan.roles.recipient, m_plan.roles.payer});
+        std::set<std::string> texts;
+        for (const Seen& date : m_dates) {
+            std::string text;
+            for (const int column : columns)
+                text += TextTools::trim(m_table.cell(date.record, column));
+            texts.insert(std::move(text));
+        }
+        return texts.size() > 1 && texts.size() * 2 >= m_dates.size();
     }
 
     const RecordTable& m_table;
@@ -196,8 +214,6 @@ private:
 
 namespace DateOrders {
 
-DateOrderDecision decide(const RecordTable& table, const TablePlan& plan, int centuryWindow) {
-    return Decider(table, plan, centuryWindow).run();
-}
+DateOrderDecision decide(const RecordTable& table, const TablePlan& plan) { return Decider(table, plan).run(); }
 
 } // namespace DateOrders

@@ -14,14 +14,14 @@
 struct DateOrderDecision {
     std::optional<DateOrder> order; ///< empty when nothing decides
     Reason reason;
-    bool proven = false; ///< no other order reads every date
+    bool proven = false; ///< no other order reads as many dates, or none reads one differently
     int exampleLine = 0; ///< of an undecided date
     std::string example; ///< host bytes
 };
 
 namespace DateOrders {
 
-/// `plan` needs its region, roles and decimal mark.
-DateOrderDecision decide(const RecordTable& table, const TablePlan& plan, int centuryWindow);
+/// `plan` needs its region, roles, century window and decimal mark.
+DateOrderDecision decide(const RecordTable& table, const TablePlan& plan);
 
 } // namespace DateOrders

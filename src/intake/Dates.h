@@ -3,21 +3,9 @@
 #pragma once
 
 #include <optional>
-#include <string>
 #include <string_view>
 
-/// A calendar day.
-struct Day {
-    int year = 0;
-    int month = 0;
-    int day = 0;
-
-    friend auto operator<=>(const Day&, const Day&) = default;
-    bool exists() const;
-    /// Days since 1 January of year 1, for distances.
-    int number() const;
-    std::string germanText() const; ///< dd.mm.yyyy
-};
+#include "intake/Day.h"
 
 /// Which number of a date comes first.
 enum class DateOrder { dayMonthYear, monthDayYear, yearMonthDay };
@@ -39,7 +27,8 @@ struct DateCell {
     bool time = false;           ///< a time of day stands behind it
     bool plain = false;          ///< nothing but digits and separators, no blanks
 
-    /// The day under `order`; nothing when it does not exist. `assumedYear`
+    /// The day under `order`; nothing when it does not exist, or lies in a year
+    /// that no account has seen (a slip such as 0204 for 2024). `assumedYear`
     /// serves cells without a year. Two-digit years up to `centuryWindow` lie
     /// in the 2000s.
     std::optional<Day> day(DateOrder order, int centuryWindow, std::optional<int> assumedYear = std::nullopt) const;
@@ -51,6 +40,7 @@ std::string_view name(DateOrder order);
 std::optional<DateOrder> parseOrder(std::string_view name);
 
 /// The numbers of a date, of any of the forms; nothing for any other text.
+/// Behind it a time of day and a time zone may stand, before it a weekday.
 std::optional<DateCell> read(std::string_view cell);
 
 } // namespace DateCells

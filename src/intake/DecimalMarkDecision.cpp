@@ -3,6 +3,7 @@
 #include "intake/DecimalMarkDecision.h"
 
 #include <array>
+#include <vector>
 
 #include "intake/Money.h"
 #include "intake/TextTools.h"
@@ -11,57 +12,91 @@ namespace {
 
 constexpr std::array<char, 2> kMarks = {',', '.'};
 
-/// How many amounts a mark reads, and the first that shows it is this one.
-struct Tally {
-    int plausible = 0;
-    int proofLine = 0;
-    int proofColumn = -1;
-};
+/// What the amounts of some columns say for and against each mark.
+class Evidence {
+public:
+    Evidence(const RecordTable& table, const TablePlan& plan, const std::vector<int>& columns) {
+        for (std::size_t record = plan.region.begin; record < plan.region.end; ++record) {
+            for (const int column : columns) {
+                if (const std::string_view text = TextTools::trim(table.cell(record, column)); !text.empty())
+                    consider(table.record(record).firstLine + 1, column, text);
+            }
+        }
+    }
 
-/// No bank counts in thousandths: "1.000" is a thousand.
-bool isPlausible(const std::optional<AmountCell>& amount) { return amount && amount->magnitude.scale <= 2; }
+    DecimalMarkDecision decision() const {
+        DecimalMarkDecision result;
+        const std::size_t winner = isBetter(0, 1) ? 0 : 1;
+        if (isBetter(0, 1) || isBetter(1, 0)) {
+            result.mark = kMarks[winner];
+            const Place& proof = m_for[winner].proof;
+            result.reason = {proof.line, proof.column,
+                             std::string("Die Beträge haben „") + kMarks[winner] + "“ vor den Dezimalstellen."};
+        } else if (m_for[0].plausible > 0) { // as many speak for the one as for the other
+            const Place& later = m_for[0].proof.line > m_for[1].proof.line ? m_for[0].proof : m_for[1].proof;
+            result.exampleLine = later.line;
+            result.example = later.text;
+        } else if (m_anyWhole) {
+            result.mark = ','; // whole amounts: every mark reads the same
+            result.reason = {0, -1, "Die Beträge haben keine Dezimalstellen."};
+        }
+        return result;
+    }
+
+private:
+    struct Place {
+        int line = 0;
+        int column = -1;
+        std::string text{};
+    };
+    struct ForMark {
+        int plausible = 0;
+        bool impossible = false; ///< there are amounts that this mark cannot read
+        Place proof{};           ///< the first amount that speaks for it
+    };
+
+    /// A mark that reads everything beats one that does not; otherwise the more, the better.
+    bool isBetter(std::size_t mark, std::size_t other) const {
+        if (m_for[mark].impossible != m_for[other].impossible)
+            return m_for[other].impossible;
+        return m_for[mark].plausible > m_for[other].plausible;
+    }
+
+    void consider(int line, int column, std::string_view text) {
+        if (text.find_first_of(",.") == std::string_view::npos) {
+            m_anyWhole = m_anyWhole || AmountCells::read(text, ',').has_value();
+            return;
+        }
+        const std::array<std::optional<AmountCell>, kMarks.size()> read = {AmountCells::read(text, kMarks[0]),
+                                                                           AmountCells::read(text, kMarks[1])};
+        // No bank counts in thousandths: "1.000" is a thousand.
+        const auto isPlausible = [&](std::size_t i) { return read[i] && !read[i]->thousand; };
+        if (isPlausible(0) && isPlausible(1)) { // the point of "Fr. 5"
+            m_anyWhole = true;
+            return;
+        }
+        for (std::size_t i = 0; i < kMarks.size(); ++i) {
+            m_for[i].impossible = m_for[i].impossible || (!read[i] && read[1 - i]);
+            if (isPlausible(i) && ++m_for[i].plausible == 1)
+                m_for[i].proof = {line, column, std::string(text)};
+        }
+    }
+
+    std::array<ForMark, kMarks.size()> m_for;
+    bool m_anyWhole = false;
+};
 
 } // namespace
 
 namespace DecimalMarks {
 
 DecimalMarkDecision decide(const RecordTable& table, const TablePlan& plan) {
-    const std::array<int, 4> columns = {plan.roles.amount, plan.roles.debit, plan.roles.credit, plan.roles.balance};
-    std::array<Tally, kMarks.size()> tallies;
-    DecimalMarkDecision decision;
-    for (std::size_t record = plan.region.begin; record < plan.region.end; ++record) {
-        for (const int column : columns) {
-            const std::string_view text = TextTools::trim(table.cell(record, column));
-            if (text.empty())
-                continue;
-            std::array<std::optional<AmountCell>, kMarks.size()> read;
-            for (std::size_t i = 0; i < kMarks.size(); ++i)
-                read[i] = AmountCells::read(text, kMarks[i]);
-            for (std::size_t i = 0; i < kMarks.size(); ++i) {
-                if (!isPlausible(read[i]))
-                    continue;
-                ++tallies[i].plausible;
-                if (tallies[i].proofLine == 0 && !isPlausible(read[1 - i])) {
-                    tallies[i].proofLine = table.record(record).firstLine + 1;
-                    tallies[i].proofColumn = column;
-                }
-            }
-            const bool differ = isPlausible(read[0]) && isPlausible(read[1]) && !(read[0]->value() == read[1]->value());
-            if (differ && decision.example.empty()) {
-                decision.exampleLine = table.record(record).firstLine + 1;
-                decision.example = text;
-            }
-        }
-    }
-    if (tallies[0].plausible != tallies[1].plausible) {
-        const std::size_t winner = tallies[0].plausible > tallies[1].plausible ? 0 : 1;
-        decision.mark = kMarks[winner];
-        decision.reason = {tallies[winner].proofLine, tallies[winner].proofColumn,
-                           std::string("Die Beträge haben „") + kMarks[winner] + "“ vor den Dezimalstellen."};
-    } else if (decision.example.empty() && tallies[0].plausible > 0) {
-        decision.mark = ','; // whole amounts: every mark reads the same
-        decision.reason = {0, -1, "Die Beträge haben keine Dezimalstellen."};
-    }
+    const ColumnRoles& roles = plan.roles;
+    DecimalMarkDecision decision = Evidence(table, plan, {roles.amount, roles.debit, roles.credit}).decision();
+    // Whole amounts: the balance may have decimals. It may also be written otherwise.
+    const bool open = !decision.mark || decision.reason.line == 0;
+    if (open && roles.balance >= 0)
+        return Evidence(table, plan, {roles.amount, roles.debit, roles.credit, roles.balance}).decision();
     return decision;
 }
 

@@ -19,7 +19,8 @@ struct DecimalMarkDecision {
 
 namespace DecimalMarks {
 
-/// `plan` needs its region and roles. One mark serves all columns of amounts.
+/// `plan` needs its region and roles. One mark serves all columns of amounts; the
+/// balance has a say only where they leave it open.
 DecimalMarkDecision decide(const RecordTable& table, const TablePlan& plan);
 
 } // namespace DecimalMarks

@@ -4,16 +4,20 @@
 
 #include <span>
 #include <string_view>
+#include <vector>
 
+#include "intake/BookingRow.h"
 #include "intake/ColumnLexicon.h"
 #include "intake/ImportPlan.h"
 #include "intake/InspectionOptions.h"
 #include "intake/RecordTable.h"
 
-/// A delimited file, split, and the plan for reading it.
+/// A delimited file, split, the plan for reading it, and what it reads.
 struct DelimitedFile {
     RecordTable table;
     ImportPlan plan;
+    /// For each table of the plan its records, those of its region, in order.
+    std::vector<std::vector<BookingRow>> rows;
 };
 
 namespace DelimitedInspector {

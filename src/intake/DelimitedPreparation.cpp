@@ -8,31 +8,55 @@
 #include <string>
 #include <utility>
 
-#include "intake/BookingRow.h"
+#include "intake/BookingFields.h"
 #include "intake/LibraryReading.h"
+#include "intake/MessageTexts.h"
+#include "intake/PreparedLines.h"
 #include "intake/TextTools.h"
 
 namespace {
 
-/// The fields of the data model that a delimited file feeds, in the order of a
-/// line that is written anew.
-enum Target { tDatum, tBetrag, tEmpfaenger, tVerwendungszweck, tBuchungstext, tKategorie, tUnterkategorie, tCount };
-constexpr std::array<const char*, tCount> kFields = {"Datum",        "Betrag",    "Empfaenger",    "Verwendungszweck",
-                                                     "Buchungstext", "Kategorie", "Unterkategorie"};
+using Kind = BookingRow::Kind;
 
-using Values = std::array<std::string, tCount>;
+/// What becomes of a record that is no booking.
+struct Verdict {
+    Kind kind;
+    MessageId message;
+    LineUse use;
+};
+constexpr std::array<Verdict, 12> kVerdicts = {{
+    {Kind::badDate, MessageId::badDate, LineUse::record},
+    {Kind::wordForDate, MessageId::wordForDate, LineUse::record},
+    {Kind::noDate, MessageId::dateMissing, LineUse::record},
+    {Kind::badAmount, MessageId::badAmount, LineUse::record},
+    {Kind::noAmount, MessageId::amountMissing, LineUse::record},
+    {Kind::noSign, MessageId::signUnknown, LineUse::record},
+    {Kind::tooManyFields, MessageId::tooManyFields, LineUse::record},
+    {Kind::pending, MessageId::pending, LineUse::ignored},
+    {Kind::failed, MessageId::notBooked, LineUse::ignored},
+    {Kind::balance, MessageId::balanceLine, LineUse::ignored},
+    {Kind::continuation, MessageId::notABooking, LineUse::ignored},
+    {Kind::other, MessageId::notABooking, LineUse::ignored},
+}};
 
-/// The column that carries each field; -1 for none.
-std::array<int, tCount> carriers(const ColumnRoles& roles) {
-    std::array<int, tCount> columns{};
-    columns[tDatum] = roles.date;
-    columns[tBetrag] = roles.amount >= 0 ? roles.amount : std::max(roles.debit, roles.credit);
-    columns[tEmpfaenger] = roles.counterparty >= 0 ? roles.counterparty : roles.recipient;
-    columns[tVerwendungszweck] = roles.purpose.empty() ? -1 : roles.purpose.front();
-    columns[tBuchungstext] = roles.postingText;
-    columns[tKategorie] = roles.category;
-    columns[tUnterkategorie] = roles.subcategory;
-    return columns;
+/// Behind the last booking these are the end of a statement and need no word.
+bool isFooter(Kind kind, bool behindGap) {
+    switch (kind) {
+    case Kind::balance:
+    case Kind::continuation:
+    case Kind::other:
+    case Kind::wordForDate:
+        return true;
+    case Kind::noDate:
+    case Kind::noAmount:
+        return behindGap; // right below the bookings it may be one of them
+    default:
+        return false;
+    }
+}
+
+bool isRecord(Kind kind) {
+    return kind == Kind::booking || kind == Kind::pending || kind == Kind::failed || kind == Kind::noSign;
 }
 
 void appendCell(std::string& line, std::string_view cell, char delimiter) {
@@ -50,87 +74,49 @@ void appendCell(std::string& line, std::string_view cell, char delimiter) {
     line += '"';
 }
 
-/// A field in one line, without a zero byte, which would end it.
-std::string oneLine(std::string_view text) {
-    std::string out(TextTools::trim(text));
-    for (char& c : out) {
-        if (c == '\n' || c == '\r' || c == '\0')
-            c = ' ';
-    }
-    return out;
-}
-
-void appendPart(std::string& text, std::string_view part) {
-    const std::string line = oneLine(part);
-    if (line.empty())
-        return;
-    if (!text.empty())
-        text += ' ';
-    text += line;
-}
-
-struct Explanation {
-    BookingRow::Kind kind;
-    const char* code;
-    bool refusal;
-    const char* text;
-};
-constexpr std::array<Explanation, 7> kExplanations = {{
-    {BookingRow::Kind::badDate, "bad-date", true,
-     "Das Datum „%“ ist nicht lesbar. Bitte die Zeile in der Datei berichtigen oder mit --allow-undated ohne Datum "
-     "übernehmen."},
-    {BookingRow::Kind::badAmount, "bad-amount", true,
-     "Der Betrag „%“ ist nicht lesbar. Bitte die Zeile in der Datei berichtigen."},
-    {BookingRow::Kind::noAmount, "amount-missing", true,
-     "Die Zeile hat ein Datum, aber keinen Betrag. Bitte den Betrag in der Datei ergänzen."},
-    {BookingRow::Kind::noDate, "date-missing", true,
-     "Die Zeile hat einen Betrag, aber kein Datum. Bitte das Datum in der Datei ergänzen oder mit --allow-undated "
-     "übernehmen."},
-    {BookingRow::Kind::noSign, "sign-unknown", true,
-     "Ob der Betrag „%“ eine Einnahme oder eine Ausgabe ist, ergibt sich bei den übrigen Zeilen aus dem Saldo, bei der "
-     "ältesten "
-     "nicht. Bitte das Vorzeichen in der Datei ergänzen."},
-    {BookingRow::Kind::pending, "pending", false,
-     "Der Umsatz ist erst vorgemerkt und noch nicht gebucht; er wird übernommen, sobald die Bank ihn als gebucht "
-     "führt."},
-    {BookingRow::Kind::balance, "balance-line", false,
-     "Die Zeile nennt einen Saldo oder eine Summe und ist keine Buchung."},
-}};
-
 class Preparer {
 public:
+    /// `anew`: lines hold the fields that are read, and no others.
     Preparer(const DelimitedFile& file, const PhysicalLines& physical, const InspectionOptions& options, bool anew)
-        : m_file(file), m_table(file.table), m_physical(physical), m_options(options), m_anew(anew) {
-        m_out.resize(physical.lines.size());
+        : m_file(file), m_table(file.table), m_options(options), m_anew(anew), m_lines(physical) {
         m_result.lines.assign(physical.lines.size(), LineUse::blank);
         m_result.delimiter = file.plan.delimiter;
         for (const TablePlan& plan : file.plan.tables) {
-            for (std::size_t i = 0; i < tCount; ++i)
-                m_used[i] = m_used[i] || carriers(plan.roles)[i] >= 0;
+            const auto columns = BookingFields::carriers(plan.roles);
+            for (std::size_t i = 0; i < kBookingFieldCount; ++i)
+                m_used[i] = m_used[i] || columns[i] >= 0;
         }
-        m_used[tEmpfaenger] = m_used[tEmpfaenger];
     }
 
-    /// Whether a line is longer than the library reads, and would be shorter written anew.
+    /// Whether a line is longer than the library reads, and may be shorter written anew.
     bool tooLong() const { return m_tooLong; }
 
     PreparedFile run() {
         std::size_t next = 0;
-        bool first = true;
-        for (const TablePlan& plan : m_file.plan.tables) {
+        for (std::size_t i = 0; i < m_file.plan.tables.size(); ++i) {
+            const TablePlan& plan = m_file.plan.tables[i];
             const std::size_t top = plan.region.header.value_or(plan.region.begin);
-            markOutside(next, top, first ? LineUse::preamble : LineUse::footer);
-            writeTable(plan, first);
+            for (; next < top; ++next)
+                use(next, i == 0 ? LineUse::preamble : LineUse::footer);
+            writeTable(plan, m_file.rows[i], i == 0);
             next = plan.region.end;
-            first = false;
         }
-        markOutside(next, m_table.size(), LineUse::footer);
+        for (; next < m_table.size(); ++next)
+            use(next, LineUse::footer);
         assign();
-        join();
+        m_result.text = m_lines.text();
         return std::move(m_result);
     }
 
 private:
+    struct Current {
+        std::size_t record;
+        const TablePlan* plan;
+        const BookingRow* row;
+        std::string furtherPurpose; ///< from the lines below
+        int nextLine;               ///< where such a line would stand
+    };
+
     int lineOf(std::size_t record) const { return m_table.record(record).firstLine; }
 
     void use(std::size_t record, LineUse use) {
@@ -140,295 +126,192 @@ private:
                 r.blank ? LineUse::blank : (i == 0 || use != LineUse::record ? use : LineUse::ignored);
     }
 
-    void markOutside(std::size_t from, std::size_t to, LineUse as) {
-        for (std::size_t i = from; i < to; ++i)
-            use(i, as);
+    void say(std::size_t record, MessageId id, std::string_view argument = {}) {
+        m_result.messages.push_back(Messages::make(id, lineOf(record) + 1, {argument}));
+        m_result.refused += m_result.messages.back().refusal ? 1 : 0;
     }
 
-    void say(std::size_t record, const char* code, bool refusal, std::string text) {
-        const int line = lineOf(record) + 1;
-        m_result.messages.push_back({line, code, "Zeile " + std::to_string(line) + ": " + std::move(text), refusal});
-        m_result.refused += refusal ? 1 : 0;
+    /// The cell that a verdict is about.
+    std::string subject(std::size_t record, const TablePlan& plan, Kind kind) const {
+        const ColumnRoles& roles = plan.roles;
+        int column = -1;
+        if (kind == Kind::badDate || kind == Kind::wordForDate)
+            column = roles.date;
+        else if (kind == Kind::failed)
+            column = roles.status;
+        else if (roles.amount >= 0)
+            column = roles.amount;
+        else
+            column = TextTools::trim(m_table.cell(record, roles.debit)).empty() ? roles.credit : roles.debit;
+        return TextTools::toUtf8(BookingFields::oneLine(m_table.cell(record, column)));
     }
 
-    void explain(std::size_t record, const TablePlan& plan, BookingRow::Kind kind) {
-        const auto* row = std::find_if(kExplanations.begin(), kExplanations.end(),
-                                       [&](const Explanation& e) { return e.kind == kind; });
-        if (row == kExplanations.end())
-            return;
-        std::string text = row->text;
-        if (const auto at = text.find('%'); at != std::string::npos) {
-            const int column = kind == BookingRow::Kind::badDate ? plan.roles.date : badAmountColumn(record, plan);
-            text.replace(at, 1, TextTools::toUtf8(oneLine(m_table.cell(record, column))));
-        }
-        say(record, row->code, row->refusal, std::move(text));
-    }
-
-    int badAmountColumn(std::size_t record, const TablePlan& plan) const {
-        if (plan.roles.amount >= 0)
-            return plan.roles.amount;
-        return TextTools::trim(m_table.cell(record, plan.roles.debit)).empty() ? plan.roles.credit : plan.roles.debit;
-    }
-
-    void writeTable(const TablePlan& plan, bool first) {
-        if (plan.region.header) {
-            use(*plan.region.header, LineUse::header);
+    void writeTable(const TablePlan& plan, const std::vector<BookingRow>& rows, bool first) {
+        const TableRegion& region = plan.region;
+        if (region.header) {
+            use(*region.header, LineUse::header);
             if (first)
-                writeHeader(*plan.region.header);
+                writeHeader(*region.header, plan);
         }
-        for (const std::size_t repeated : plan.region.repeatedHeaders)
-            use(repeated, LineUse::header);
-
-        std::size_t last = plan.region.begin;
-        std::vector<BookingRow> rows;
-        rows.reserve(plan.region.end - plan.region.begin);
-        for (std::size_t i = plan.region.begin; i < plan.region.end; ++i) {
-            rows.push_back(BookingRows::read(m_table, i, plan, m_options.centuryWindow));
-            if (rows.back().kind == BookingRow::Kind::booking || rows.back().kind == BookingRow::Kind::pending)
-                last = i;
-        }
-        if (plan.sign == SignRule::fromBalance)
-            takeSignsFromBalance(rows, plan.newestFirst);
-        for (std::size_t i = plan.region.begin; i < plan.region.end; ++i) {
-            if (std::find(plan.region.repeatedHeaders.begin(), plan.region.repeatedHeaders.end(), i) ==
-                plan.region.repeatedHeaders.end())
-                handle(i, rows[i - plan.region.begin], plan, i > last);
+        std::size_t end = rows.size(); // one behind the last booking
+        while (end > 0 && !isRecord(rows[end - 1].kind))
+            --end;
+        bool gap = false;
+        auto repeated = region.repeatedHeaders.begin();
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            const std::size_t record = region.begin + i;
+            if (repeated != region.repeatedHeaders.end() && *repeated == record) {
+                use(record, LineUse::header);
+                ++repeated;
+                continue;
+            }
+            gap = i >= end && (gap || rows[i].kind == Kind::blank);
+            if (i >= end && isFooter(rows[i].kind, gap) && !continues(record, rows[i].kind))
+                use(record, LineUse::footer);
+            else
+                handle(record, rows[i], plan);
         }
         flush();
     }
 
-    void handle(std::size_t record, const BookingRow& row, const TablePlan& plan, bool behindLast) {
-        using Kind = BookingRow::Kind;
-        const bool undated = m_options.allowUndated && (row.kind == Kind::badDate || row.kind == Kind::noDate);
+    void handle(std::size_t record, const BookingRow& row, const TablePlan& plan) {
+        const bool undated = m_options.allowUndated && row.amount &&
+                             (row.kind == Kind::badDate || row.kind == Kind::noDate || row.kind == Kind::wordForDate);
         if (row.kind == Kind::booking || undated) {
             flush();
             use(record, LineUse::record);
-            m_current = Pending{record, &plan, row, valuesOf(record, row, plan)};
+            const auto& r = m_table.record(record);
+            m_current = Current{record, &plan, &row, {}, r.firstLine + r.lineCount};
             return;
         }
-        if (row.kind == Kind::continuation && m_current && !behindEnd(record)) {
+        if (row.kind == Kind::blank)
+            return;
+        if (continues(record, row.kind)) {
             use(record, LineUse::ignored);
-            const ColumnRoles& roles = plan.roles;
-            if (roles.postingTextInPurpose)
-                appendPart(m_current->values[tVerwendungszweck], m_table.cell(record, roles.postingText));
-            for (const int column : roles.purpose)
-                appendPart(m_current->values[tVerwendungszweck], m_table.cell(record, column));
-            return;
-        }
-        if (row.kind == Kind::blank || (behindLast && row.kind != Kind::badAmount && row.kind != Kind::badDate)) {
-            use(record, LineUse::footer);
+            if (plan.roles.postingTextInPurpose)
+                BookingFields::appendPart(m_current->furtherPurpose, m_table.cell(record, plan.roles.postingText));
+            for (const int column : plan.roles.purpose)
+                BookingFields::appendPart(m_current->furtherPurpose, m_table.cell(record, column));
+            m_current->nextLine += m_table.record(record).lineCount;
             return;
         }
         flush();
-        const bool refusal = row.kind == Kind::badDate || row.kind == Kind::badAmount || row.kind == Kind::noAmount ||
-                             row.kind == Kind::noDate || row.kind == Kind::noSign;
-        use(record, refusal ? LineUse::record : LineUse::ignored);
-        if (row.kind == Kind::other || row.kind == Kind::continuation)
-            say(record, "not-a-booking", false,
-                "Die Zeile enthält weder ein Datum noch einen Betrag und wird übergangen.");
-        else
-            explain(record, plan, row.kind);
+        const auto* verdict =
+            std::find_if(kVerdicts.begin(), kVerdicts.end(), [&](const Verdict& v) { return v.kind == row.kind; });
+        use(record, verdict->use);
+        say(record, verdict->message, subject(record, plan, row.kind));
     }
 
     /// A line of text continues the booking right above it, not one further up.
-    bool behindEnd(std::size_t record) const {
-        const auto& booking = m_table.record(m_current->record);
-        return lineOf(record) > booking.firstLine + booking.lineCount + m_continued++;
+    bool continues(std::size_t record, Kind kind) const {
+        return kind == Kind::continuation && m_current && lineOf(record) == m_current->nextLine;
     }
 
-    Values valuesOf(std::size_t record, const BookingRow& row, const TablePlan& plan) const {
-        const ColumnRoles& roles = plan.roles;
-        const auto cell = [&](int column) { return m_table.cell(record, column); };
-        Values values;
-        values[tDatum] = dateValue(TextTools::trim(cell(roles.date)), row);
-        values[tBetrag] =
-            amountValue(roles.amount >= 0 && plan.sign != SignRule::twoColumns ? TextTools::trim(cell(roles.amount))
-                                                                               : std::string_view(),
-                        *row.amount);
-        values[tEmpfaenger] = oneLine(cell(payeeColumn(roles, *row.amount, record)));
-        if (roles.postingTextInPurpose)
-            appendPart(values[tVerwendungszweck], cell(roles.postingText));
-        for (const int column : roles.purpose)
-            appendPart(values[tVerwendungszweck], cell(column));
-        if (roles.overflowIsPurpose) {
-            for (int column = roles.width; column < m_table.record(record).cellCount; ++column)
-                appendPart(values[tVerwendungszweck], cell(column));
-        }
-        values[tBuchungstext] = oneLine(cell(roles.postingText));
-        values[tKategorie] = oneLine(cell(roles.category));
-        values[tUnterkategorie] = oneLine(cell(roles.subcategory));
-        return values;
-    }
-
-    std::string dateValue(std::string_view cell, const BookingRow& row) const {
-        if (!row.day)
-            return {};
-        return LibraryReading::readsDate(cell, *row.day, m_options.centuryWindow) ? std::string(cell)
-                                                                                  : row.day->germanText();
-    }
-
-    static std::string amountValue(std::string_view cell, const Money& amount) {
-        return !cell.empty() && LibraryReading::readsAmount(cell, amount) ? oneLine(cell) : amount.text();
-    }
-
-    /// Of the two sides of a booking the other one: who got the money, or who sent it.
-    int payeeColumn(const ColumnRoles& roles, const Money& amount, std::size_t record) const {
-        const bool out = amount.isNegative();
-        for (const int column :
-             {out ? roles.recipient : roles.payer, roles.counterparty, out ? roles.payer : roles.recipient}) {
-            if (!TextTools::trim(m_table.cell(record, column)).empty())
-                return column;
-        }
-        return -1;
-    }
-
-    static void takeSignsFromBalance(std::vector<BookingRow>& rows, bool newestFirst) {
-        std::optional<std::size_t> before;
-        const auto step = [&](std::size_t older, std::size_t newer) {
-            const Money change = *rows[newer].balance - *rows[older].balance;
-            rows[newer].amount =
-                change.isNegative() ? rows[newer].amount->magnitude().negated() : rows[newer].amount->magnitude();
-        };
-        for (std::size_t i = 0; i < rows.size(); ++i) {
-            if (rows[i].kind != BookingRow::Kind::booking || !rows[i].balance)
-                continue;
-            if (before)
-                newestFirst ? step(i, *before) : step(*before, i);
-            before = i;
-        }
-        // What was there before the oldest booking is not in the file, so its sign is not either.
-        const auto booked = [](const BookingRow& row) { return row.kind == BookingRow::Kind::booking && row.balance; };
-        const auto mark = [](BookingRow& row) {
-            row.kind = row.amount->isZero() ? row.kind : BookingRow::Kind::noSign;
-        };
-        if (const auto oldest = std::find_if(rows.begin(), rows.end(), booked); !newestFirst && oldest != rows.end())
-            mark(*oldest);
-        if (const auto oldest = std::find_if(rows.rbegin(), rows.rend(), booked); newestFirst && oldest != rows.rend())
-            mark(*oldest);
-    }
-
-    void writeHeader(std::size_t record) {
+    void writeHeader(std::size_t record, const TablePlan& plan) {
         m_result.header = true;
-        const auto line = static_cast<std::size_t>(lineOf(record));
-        if (!m_anew && m_table.record(record).plain) {
-            m_out[line] = m_physical.lines[line];
-            return;
-        }
+        const int line = lineOf(record);
         std::string text;
         if (m_anew) {
-            for (std::size_t i = 0; i < tCount; ++i) {
+            for (std::size_t i = 0; i < kBookingFieldCount; ++i) {
                 if (m_used[i])
-                    (text.empty() ? text : text += m_result.delimiter) += kFields[i];
+                    (text.empty() ? text : text += m_result.delimiter) += BookingFields::kNames[i];
             }
+        } else if (canKeep(record)) {
+            m_lines.keep(line);
+            return;
         } else {
-            for (const std::string_view cell : m_table.cells(record)) {
-                if (cell.data() != m_table.cells(record).front().data() || !text.empty())
+            const int width = std::min(plan.roles.width, LibraryReading::kMaxColumns);
+            for (int column = 0; column < width; ++column) {
+                if (column > 0)
                     text += m_result.delimiter;
-                appendCell(text, oneLine(cell), m_result.delimiter);
+                appendCell(text, BookingFields::oneLine(m_table.cell(record, column)), m_result.delimiter);
             }
         }
-        m_out[line] = std::move(text);
+        m_lines.write(line, std::move(text));
+    }
+
+    /// Whether the library splits the line as we do, and reads all of it.
+    bool canKeep(std::size_t record) const {
+        const auto& r = m_table.record(record);
+        const std::string_view line = m_lines.original(r.firstLine);
+        return r.plain && r.cellCount <= LibraryReading::kMaxColumns && line.find('\0') == std::string_view::npos &&
+               line.size() <= static_cast<std::size_t>(LibraryReading::kMaxLineLength);
     }
 
     /// Writes the booking that was held back for lines that continue it.
     void flush() {
         if (!m_current)
             return;
-        const auto current = std::exchange(m_current, std::nullopt);
-        m_continued = 0;
-        std::string text = m_anew ? lineAnew(*current) : lineChanged(*current);
-        if (text.size() > static_cast<std::size_t>(LibraryReading::kMaxLineLength)) {
-            m_tooLong = true;
-            if (m_anew)
-                say(current->record, "line-too-long", true,
-                    "Die Buchung ist länger als " + std::to_string(LibraryReading::kMaxLineLength) +
-                        " Zeichen. Bitte ihren Text in der Datei kürzen.");
+        const Current current = *std::exchange(m_current, std::nullopt);
+        const int line = lineOf(current.record);
+        if (!m_anew && current.furtherPurpose.empty() && canKeep(current.record) &&
+            BookingFields::readsRight(m_table, current.record, *current.row, *current.plan)) {
+            m_lines.keep(line);
             return;
         }
-        m_out[static_cast<std::size_t>(lineOf(current->record))] = std::move(text);
+        auto values = BookingFields::of(m_table, current.record, *current.row, *current.plan);
+        BookingFields::appendPart(values[static_cast<std::size_t>(BookingField::purpose)], current.furtherPurpose);
+        std::string text = m_anew ? lineAnew(values) : lineChanged(current, values);
+        if (text.size() <= static_cast<std::size_t>(LibraryReading::kMaxLineLength)) {
+            m_lines.write(line, std::move(text));
+            return;
+        }
+        m_tooLong = true;
+        if (m_anew)
+            say(current.record, MessageId::bookingTooLong, std::to_string(LibraryReading::kMaxLineLength));
     }
 
-    struct Pending {
-        std::size_t record;
-        const TablePlan* plan;
-        BookingRow row;
-        Values values;
-    };
-
-    std::string lineAnew(const Pending& booking) const {
+    std::string lineAnew(const BookingFields::PerField<std::string>& values) const {
         std::string text;
         bool first = true;
-        for (std::size_t i = 0; i < tCount; ++i) {
+        for (std::size_t i = 0; i < kBookingFieldCount; ++i) {
             if (!m_used[i])
                 continue;
             if (!std::exchange(first, false))
                 text += m_result.delimiter;
-            appendCell(text, booking.values[i], m_result.delimiter);
+            appendCell(text, values[i], m_result.delimiter);
         }
         return text;
     }
 
-    /// The line as it is where no field that is read changes; otherwise its
-    /// fields, the changed ones replaced.
-    std::string lineChanged(const Pending& booking) const {
-        const auto columns = carriers(booking.plan->roles);
-        const auto& record = m_table.record(booking.record);
-        bool same = record.plain && record.cellCount <= LibraryReading::kMaxColumns;
-        for (std::size_t i = 0; i < tCount && same; ++i) {
-            if (columns[i] >= 0)
-                same = i == tVerwendungszweck || i == tEmpfaenger || i >= tBuchungstext
-                           ? TextTools::trim(m_table.cell(booking.record, columns[i])) == booking.values[i]
-                           : m_table.cell(booking.record, columns[i]) == booking.values[i];
-        }
-        if (same)
-            return std::string(m_physical.lines[static_cast<std::size_t>(record.firstLine)]);
-
-        std::string text;
-        const int width = std::min(std::max(record.cellCount, *std::max_element(columns.begin(), columns.end()) + 1),
+    /// The fields of the line, those that are read replaced by their values.
+    std::string lineChanged(const Current& booking, const BookingFields::PerField<std::string>& values) const {
+        const ColumnRoles& roles = booking.plan->roles;
+        const auto columns = BookingFields::carriers(roles);
+        const int cellCount = m_table.record(booking.record).cellCount;
+        const int width = std::min(std::max(roles.overflowIsPurpose ? std::min(cellCount, roles.width) : cellCount,
+                                            *std::max_element(columns.begin(), columns.end()) + 1),
                                    LibraryReading::kMaxColumns);
+        std::string text;
         for (int column = 0; column < width; ++column) {
             if (column > 0)
                 text += m_result.delimiter;
             const auto at = std::find(columns.begin(), columns.end(), column);
             if (at != columns.end())
-                appendCell(text, booking.values[static_cast<std::size_t>(at - columns.begin())], m_result.delimiter);
-            else
-                appendCell(text, oneLine(m_table.cell(booking.record, column)), m_result.delimiter);
+                appendCell(text, values[static_cast<std::size_t>(at - columns.begin())], m_result.delimiter);
+            else if (!BookingFields::isUsedUp(roles, column))
+                appendCell(text, BookingFields::oneLine(m_table.cell(booking.record, column)), m_result.delimiter);
         }
         return text;
     }
 
     void assign() {
-        const auto columns = carriers(m_file.plan.tables.front().roles);
+        const auto columns = BookingFields::carriers(m_file.plan.tables.front().roles);
         int next = 0;
-        for (std::size_t i = 0; i < tCount; ++i) {
+        for (std::size_t i = 0; i < kBookingFieldCount; ++i) {
             if (m_anew ? m_used[i] : columns[i] >= 0)
-                m_result.columns.push_back({m_anew ? next++ : columns[i], kFields[i]});
-        }
-    }
-
-    void join() {
-        std::size_t size = 0;
-        for (const std::string& line : m_out)
-            size += line.size() + 1;
-        m_result.text.reserve(size);
-        for (std::size_t i = 0; i < m_out.size(); ++i) {
-            m_result.text += m_out[i];
-            if (i + 1 < m_out.size() || m_physical.endsWithNewline)
-                m_result.text += '\n';
+                m_result.columns.push_back({m_anew ? next++ : columns[i], BookingFields::kNames[i]});
         }
     }
 
     const DelimitedFile& m_file;
     const RecordTable& m_table;
-    const PhysicalLines& m_physical;
     const InspectionOptions& m_options;
-    bool m_anew; ///< lines hold the fields that are read, and no others
-    std::array<bool, tCount> m_used{};
-    std::vector<std::string> m_out;
+    bool m_anew;
+    std::array<bool, kBookingFieldCount> m_used{};
+    PreparedLines m_lines;
     PreparedFile m_result;
-    std::optional<Pending> m_current;
-    mutable int m_continued = 0;
+    std::optional<Current> m_current;
     bool m_tooLong = false;
 };
 
@@ -437,7 +320,7 @@ private:
 bool mustWriteAnew(const ImportPlan& plan) {
     if (plan.tables.size() > 1)
         return true;
-    const auto columns = carriers(plan.tables.front().roles);
+    const auto columns = BookingFields::carriers(plan.tables.front().roles);
     return *std::max_element(columns.begin(), columns.end()) >= LibraryReading::kMaxColumns;
 }
 

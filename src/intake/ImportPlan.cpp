@@ -21,7 +21,9 @@ std::map<std::string, std::vector<int>> ImportPlan::columns() const {
     add("Datum", roles.date);
     if (roles.amount >= 0) {
         add("Betrag", roles.amount);
-        add("Betrag", tables.front().sign == SignRule::signColumn ? roles.sign : -1);
+        add("Betrag", tables.front().sign == SignRule::signColumn || tables.front().sign == SignRule::kindOfBooking
+                          ? roles.sign
+                          : -1);
     } else {
         add("Betrag", roles.debit);
         add("Betrag", roles.credit);

@@ -7,22 +7,18 @@
 #include <string>
 #include <vector>
 
-#include "intake/Encoding.h"
 #include "intake/IntakeMessage.h"
-#include "intake/PhysicalLines.h"
 #include "intake/Reason.h"
 #include "intake/RecordTable.h"
 #include "intake/TablePlan.h"
 
 /// How a delimited file is read: what was found, how sure it is, and why.
 struct ImportPlan {
-    Encoding encoding = Encoding::ascii;
-    bool bom = false;
-    LineEnds lineEnds = LineEnds::none;
     char delimiter = ';';
     std::vector<TablePlan> tables; ///< in file order; records are imported from all of them
     double confidence = 0.0;       ///< 0 to 1
     std::vector<Reason> reasons;
+    std::vector<IntakeMessage> remarks; ///< odd things that change nothing
     /// Set when something that changes amounts or dates cannot be decided; its
     /// text names the options that decide it. Nothing is imported then.
     std::optional<IntakeMessage> undecided;

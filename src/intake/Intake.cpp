@@ -3,10 +3,12 @@
 #include "intake/Intake.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "intake/DelimitedInspector.h"
 #include "intake/DelimitedPreparation.h"
 #include "intake/HostTextReader.h"
+#include "intake/MessageTexts.h"
 #include "intake/QifPreparation.h"
 #include "intake/StarMoneyLayout.h"
 #include "intake/TextTools.h"
@@ -44,44 +46,25 @@ const std::vector<FixedLayout>& fixedLayouts() {
     return layouts;
 }
 
-std::string quoted(const std::string& hostText) { return "„" + TextTools::toUtf8(hostText) + "“"; }
-
-std::string utf8Of(char32_t c) {
-    std::string out;
-    if (c < 0x800) {
-        out += static_cast<char>(0xC0U | c >> 6U);
-    } else if (c < 0x10000) {
-        out += static_cast<char>(0xE0U | c >> 12U);
-        out += static_cast<char>(0x80U | (c >> 6U & 0x3FU));
-    } else {
-        out += static_cast<char>(0xF0U | c >> 18U);
-        out += static_cast<char>(0x80U | (c >> 12U & 0x3FU));
-        out += static_cast<char>(0x80U | (c >> 6U & 0x3FU));
-    }
-    out += static_cast<char>(0x80U | (c & 0x3FU));
-    return out;
+/// What reading the bytes as text could not keep.
+std::vector<IntakeMessage> aboutText(const HostFileText& text) {
+    std::vector<IntakeMessage> messages;
+    for (const auto& [character, substitution] : text.substitutions)
+        messages.push_back(Messages::make(MessageId::characterReplaced, substitution.firstLine,
+                                          {TextTools::utf8Of(character), std::to_string(substitution.count),
+                                           TextTools::toUtf8(substitution.replacement)}));
+    if (text.brokenLine > 0)
+        messages.push_back(Messages::make(MessageId::encodingBroken, text.brokenLine));
+    if (text.text.find('\0') != std::string::npos)
+        messages.push_back(Messages::make(MessageId::zeroBytes, 0));
+    return messages;
 }
 
-/// What reading the bytes as text could not keep.
-void tellAboutText(const HostFileText& text, IntakeResult& result) {
-    auto& messages = result.prepared.messages;
-    for (const auto& [character, substitution] : text.substitutions) {
-        messages.push_back({substitution.firstLine, "character-replaced",
-                            "Das Zeichen „" + utf8Of(character) + "“ hat im Bestand keinen Platz und wurde " +
-                                std::to_string(substitution.count) + "-mal durch " + quoted(substitution.replacement) +
-                                " ersetzt, zuerst in Zeile " + std::to_string(substitution.firstLine) + ".",
-                            false});
-    }
-    if (text.brokenLine > 0)
-        messages.push_back(
-            {text.brokenLine, "encoding-broken",
-             "Zeile " + std::to_string(text.brokenLine) +
-                 ": Die Datei enthält Bytes, die es in ihrer Kodierung nicht gibt; sie wurden durch „?“ ersetzt. "
-                 "Falls Umlaute fehlen, bitte mit --encoding eine andere Kodierung angeben.",
-             false});
-    if (text.text.find('\0') != std::string::npos)
-        messages.push_back(
-            {0, "zero-bytes", "Die Datei enthält Nullbytes; in Texten werden sie zu Leerzeichen.", false});
+/// Adds messages; all are in the order of their lines.
+void addMessages(std::vector<IntakeMessage> added, std::vector<IntakeMessage>& messages) {
+    messages.insert(messages.begin(), std::make_move_iterator(added.begin()), std::make_move_iterator(added.end()));
+    std::stable_sort(messages.begin(), messages.end(),
+                     [](const IntakeMessage& a, const IntakeMessage& b) { return a.line < b.line; });
 }
 
 void readDelimited(const PhysicalLines& physical, const InspectionOptions& options, IntakeResult& result) {
@@ -95,43 +78,33 @@ void readDelimited(const PhysicalLines& physical, const InspectionOptions& optio
     result.reasons = plan.reasons;
     result.undecided = plan.undecided;
     if (result.format == Import::eFormatStarMoney) {
-        if (!plan.undecided && StarMoneyLayout::isReadRight(file, options.centuryWindow)) {
+        if (!plan.undecided && StarMoneyLayout::isReadRight(file)) {
             StarMoneyLayout::prepareFixed(physical, result.prepared);
             result.columns = StarMoneyLayout::columns();
             return;
         }
         result.format = Import::eFormatCSV; // another layout, which the header tells
     }
-    std::vector<IntakeMessage> aboutText = std::move(result.prepared.messages);
     result.prepared = DelimitedPreparation::prepare(file, physical, options);
-    auto& messages = result.prepared.messages;
-    messages.insert(messages.begin(), aboutText.begin(), aboutText.end());
+    std::vector<IntakeMessage> remarks = plan.remarks;
     for (const TablePlan& table : plan.tables) {
         if (table.balance != BalanceProof::none && result.balance != BalanceProof::broken)
             result.balance = table.balance;
         for (const int line : table.balanceBreaks)
-            messages.push_back(
-                {line, "balance-break",
-                 "Zeile " + std::to_string(line) +
-                     ": Der Saldo passt nicht zum vorigen Saldo und dem Betrag. Bitte prüfen, ob Buchungen fehlen.",
-                 false});
+            remarks.push_back(Messages::make(MessageId::balanceBreak, line));
     }
+    addMessages(std::move(remarks), result.prepared.messages);
 }
 
 void readQif(const PhysicalLines& physical, const InspectionOptions& options, IntakeResult& result) {
     PreparedQif qif = QifPreparation::prepare(physical, options);
-    auto& messages = qif.file.messages;
-    messages.insert(messages.begin(), result.prepared.messages.begin(), result.prepared.messages.end());
     result.prepared = std::move(qif.file);
     result.confidence = qif.confidence;
     result.reasons = std::move(qif.reasons);
     result.undecided = std::move(qif.undecided);
     result.recordsFound = qif.found;
     if (qif.found == 0 && !result.undecided)
-        result.undecided = IntakeMessage{0, "no-bookings",
-                                         "In der Datei wurden keine Buchungen gefunden: Es gibt keinen Abschnitt (wie "
-                                         "„!Type:Bank“) mit Datensätzen.",
-                                         false};
+        result.undecided = Messages::make(MessageId::noQifRecords, 0);
 }
 
 } // namespace
@@ -161,7 +134,6 @@ IntakeResult read(std::string_view bytes, Import::E_SupportedImportFormats forma
     result.bom = text.bom;
     const PhysicalLines physical = LineSplitting::split(text.text);
     result.lineEnds = physical.ends;
-    tellAboutText(text, result);
 
     if (format == Import::eFormatQIF) {
         readQif(physical, options, result);
@@ -177,6 +149,7 @@ IntakeResult read(std::string_view bytes, Import::E_SupportedImportFormats forma
         }
         readDelimited(physical, narrowed, result);
     }
+    addMessages(aboutText(text), result.prepared.messages);
     result.prepared.untouched = !result.undecided && result.prepared.text == bytes;
     return result;
 }

@@ -15,8 +15,9 @@ struct Money {
 
     bool isNegative() const { return mantissa < 0; }
     bool isZero() const { return mantissa == 0; }
-    Money negated() const { return {-mantissa, scale}; }
-    Money magnitude() const { return {mantissa < 0 ? -mantissa : mantissa, scale}; }
+    /// Wraps around like the sums below, rather than overflow on a number that no account holds.
+    Money negated() const { return {static_cast<std::int64_t>(0U - static_cast<std::uint64_t>(mantissa)), scale}; }
+    Money magnitude() const { return isNegative() ? negated() : *this; }
 
     /// Equal as numbers: 1.5 is 1.50.
     friend bool operator==(const Money& a, const Money& b);
@@ -35,6 +36,7 @@ struct AmountCell {
     Sign sign = Sign::none;
     bool marked = false;   ///< has a decimal mark
     bool currency = false; ///< names a currency
+    bool thousand = false; ///< "1.234": the mark could as well group the digits of a thousand
 
     Money value() const { return sign == Sign::minus ? magnitude.negated() : magnitude; }
 };
@@ -44,7 +46,8 @@ namespace AmountCells {
 /// Reads `cell` with `decimalMark` "," or "."; the other one, blanks and
 /// apostrophes group digits in threes. Around the number may stand a sign on
 /// either side, brackets for minus, a currency, and "S", "H", "D", "C", "DR" or
-/// "CR" for debit and credit. Anything else is no amount.
+/// "CR" for debit and credit. Anything else is no amount, and so is a number of
+/// more than 17 digits.
 std::optional<AmountCell> read(std::string_view cell, char decimalMark);
 
 } // namespace AmountCells

@@ -35,5 +35,7 @@ struct QifFile {
     std::vector<Record> records;
     std::vector<int> strayEnds; ///< lines with a "^" that ends nothing
 
+    Kind kindOf(const Record& record) const { return sections[record.section].kind; }
+
     static QifFile read(std::span<const std::string_view> lines);
 };

@@ -6,34 +6,44 @@
 #include <optional>
 #include <string>
 
-#include "intake/DateOrderDecision.h"
-#include "intake/DecimalMarkDecision.h"
 #include "intake/LibraryReading.h"
+#include "intake/MessageTexts.h"
+#include "intake/PreparedLines.h"
+#include "intake/QifFields.h"
 #include "intake/QifFile.h"
+#include "intake/QifForms.h"
 #include "intake/TextTools.h"
 
 namespace {
 
 constexpr double kOrderByContextDoubt = 0.1;
 constexpr double kUnknownSectionDoubt = 0.2;
-constexpr double kUnreadableDoubt = 0.5;
+constexpr double kUnreadableDoubt = 0.5; // times the share of records
+
+using Kind = QifFile::Kind;
+
+bool isAmountLetter(char letter) { return letter == 'T' || letter == 'U'; }
+
+/// Letters whose line the library takes from the record's last one of them.
+bool isTaken(char letter) { return std::string_view("DTUPMNLYQIO").find(letter) != std::string_view::npos; }
 
 class Preparer {
 public:
     Preparer(const PhysicalLines& physical, const InspectionOptions& options)
-        : m_physical(physical), m_options(options), m_qif(QifFile::read(physical.lines)) {
-        m_out.assign(physical.lines.begin(), physical.lines.end());
+        : m_physical(physical), m_options(options), m_qif(QifFile::read(physical.lines)), m_lines(physical) {
         m_result.file.lines.assign(physical.lines.size(), LineUse::ignored);
     }
 
     PreparedQif run() {
         adoptUnknownSections();
-        for (const QifFile::Record& record : m_qif.records) {
-            if (kind(record) == QifFile::Kind::booking || kind(record) == QifFile::Kind::category)
-                ++m_result.found;
-        }
-        if (!decideForms())
+        for (const QifFile::Record& record : m_qif.records)
+            m_result.found += isWanted(m_qif.kindOf(record)) ? 1 : 0;
+        m_forms.emplace(m_qif, m_physical, m_options);
+        m_result.reasons = m_forms->reasons();
+        m_result.undecided = m_forms->undecided();
+        if (m_result.undecided)
             return std::move(m_result);
+        m_doubt += m_forms->orderIsGuessed() ? kOrderByContextDoubt : 0.0;
         markLines();
         for (const QifFile::Record& record : m_qif.records)
             handle(record);
@@ -42,263 +52,176 @@ public:
     }
 
 private:
-    QifFile::Kind kind(const QifFile::Record& record) const { return m_qif.sections[record.section].kind; }
-    std::string_view line(int number) const {
-        return TextTools::trim(m_physical.lines[static_cast<std::size_t>(number)]);
-    }
-    std::string& out(int number) { return m_out[static_cast<std::size_t>(number)]; }
-    LineUse& use(int number) { return m_result.file.lines[static_cast<std::size_t>(number)]; }
-    static bool isAmountLetter(char letter) { return letter == 'T' || letter == 'U'; }
+    static bool isWanted(Kind kind) { return kind == Kind::booking || kind == Kind::category; }
 
-    template <typename Action>
-    void forEachLine(const QifFile::Record& record, Action action) const {
-        for (int number = record.firstLine; number < record.firstLine + record.lineCount; ++number) {
-            if (!line(number).empty())
-                action(number, line(number).front(), line(number).substr(1));
-        }
-    }
+    LineUse& use(int line) { return m_result.file.lines[static_cast<std::size_t>(line)]; }
+    std::string_view content(int line) const { return TextTools::trim(m_lines.original(line)); }
 
-    std::string_view value(const QifFile::Record& record, char letter) const {
-        std::string_view found;
-        forEachLine(record, [&](int, char l, std::string_view text) { found = l == letter ? text : found; });
-        return TextTools::trim(found);
-    }
-
-    void say(int number, const char* code, bool refusal, const std::string& text) {
-        m_result.file.messages.push_back(
-            {number + 1, code, "Zeile " + std::to_string(number + 1) + ": " + text, refusal});
-        m_result.file.refused += refusal ? 1 : 0;
+    void say(MessageId id, int line, std::initializer_list<std::string_view> arguments = {}) {
+        m_result.file.messages.push_back(Messages::make(id, line + 1, arguments));
+        m_result.file.refused += m_result.file.messages.back().refusal ? 1 : 0;
     }
 
     /// A section of a name that nobody knows, whose records have date and amount, is an account.
     void adoptUnknownSections() {
         for (const QifFile::Record& record : m_qif.records) {
             QifFile::Section& section = m_qif.sections[record.section];
-            if (section.kind != QifFile::Kind::unknown || !DateCells::read(value(record, 'D')) ||
-                value(record, 'T').empty())
+            if (section.kind != Kind::unknown)
                 continue;
-            say(section.headerLine, "unknown-section", false,
-                "Der Abschnitt „" + TextTools::toUtf8(section.header) +
-                    "“ ist unbekannt; seine Buchungen werden wie die eines Bankkontos gelesen.");
-            section.kind = QifFile::Kind::booking;
+            const QifFields fields(m_physical, record);
+            const QifField* date = fields.first('D');
+            const QifField* amount = fields.first('T');
+            if (date == nullptr || amount == nullptr || !DateCells::read(date->text) || amount->text.empty())
+                continue;
+            say(MessageId::qifAdoptedSection, section.headerLine, {TextTools::toUtf8(section.header)});
+            section.kind = Kind::booking;
             section.header = "!Type:Bank";
             section.spelledRight = false;
             m_doubt += kUnknownSectionDoubt;
         }
     }
 
-    /// Date order and decimal mark, found as in any other table: one line a record.
-    bool decideForms() {
-        std::vector<std::string> rows;
-        std::vector<int> lineOfRow;
-        for (const QifFile::Record& record : m_qif.records) {
-            if (kind(record) != QifFile::Kind::booking)
-                continue;
-            const std::string_view amount = value(record, 'T').empty() ? value(record, 'U') : value(record, 'T');
-            rows.push_back(std::string(value(record, 'D')) + '\t' + std::string(amount));
-            lineOfRow.push_back(record.firstLine + 1);
-        }
-        const std::vector<std::string_view> views(rows.begin(), rows.end());
-        const RecordTable table = RecordTable::read(views, '\t', views.size());
-        TablePlan plan;
-        plan.region.end = table.size();
-        plan.roles.date = 0;
-        plan.roles.amount = 1;
-        plan.roles.width = 2;
-
-        const DecimalMarkDecision mark = DecimalMarks::decide(table, plan);
-        m_mark = m_options.decimalMark ? m_options.decimalMark : mark.mark;
-        if (!m_mark && !mark.example.empty())
-            return undecided(
-                lineOfRow[static_cast<std::size_t>(mark.exampleLine) - 1], "decimal-mark-ambiguous",
-                "Der Betrag „" + TextTools::toUtf8(mark.example) +
-                    "“ lässt sich auf zwei Arten lesen. Bitte mit --decimal , oder --decimal . festlegen.");
-        plan.decimalMark = m_mark.value_or('.');
-        if (mark.mark && !m_options.decimalMark)
-            tell(mark.reason, lineOfRow);
-
-        const DateOrderDecision order = DateOrders::decide(table, plan, m_options.centuryWindow);
-        m_order = m_options.dateOrder ? m_options.dateOrder : order.order;
-        if (!m_order && !order.example.empty())
-            return undecided(
-                lineOfRow[static_cast<std::size_t>(order.exampleLine) - 1], "date-order-ambiguous",
-                "Beim Datum „" + TextTools::toUtf8(order.example) +
-                    "“ ist nicht zu erkennen, ob Tag oder Monat vorn steht. Bitte mit --date-order dmy, mdy "
-                    "oder ymd festlegen.");
-        if (order.order && !m_options.dateOrder) {
-            tell(order.reason, lineOfRow);
-            m_doubt += order.proven ? 0.0 : kOrderByContextDoubt;
-        }
-        m_libraryLearnsOrder = order.proven && m_order == DateOrder::monthDayYear && provesMonthFirst(table);
-        return true;
-    }
-
-    void tell(Reason reason, const std::vector<int>& lineOfRow) {
-        if (reason.line > 0)
-            reason.line = lineOfRow[static_cast<std::size_t>(reason.line) - 1];
-        reason.column = -1;
-        m_result.reasons.push_back(std::move(reason));
-    }
-
-    bool undecided(int number, const char* code, const std::string& text) {
-        m_result.undecided = IntakeMessage{number, code, "Zeile " + std::to_string(number) + ": " + text, false};
-        return false;
-    }
-
-    /// Whether the library finds out by itself that the month comes first: every
-    /// date is in the one form, and one of them has a day above twelve.
-    bool provesMonthFirst(const RecordTable& table) const {
-        bool proven = false;
-        for (std::size_t i = 0; i < table.size(); ++i) {
-            const auto date = DateCells::read(table.cell(i, 0));
-            if (!date)
-                continue;
-            if (date->form != DateCell::Form::numbers || date->time || date->numbers[0] > 12)
-                return false;
-            proven = proven || date->numbers[1] > 12;
-        }
-        return proven;
-    }
-
     void markLines() {
-        for (int i = 0; i < static_cast<int>(m_out.size()); ++i) {
-            if (line(i).empty())
-                use(i) = LineUse::blank;
-            else if (i < m_qif.linesBeforeFirstSection)
-                use(i) = LineUse::preamble;
-            if (use(i) == LineUse::preamble)
-                out(i).clear();
+        for (int line = 0; line < m_lines.count(); ++line) {
+            if (content(line).empty())
+                use(line) = LineUse::blank;
+            else if (line < m_qif.linesBeforeFirstSection)
+                use(line) = LineUse::preamble;
         }
         for (const QifFile::Section& section : m_qif.sections) {
-            const bool wanted = section.kind == QifFile::Kind::booking || section.kind == QifFile::Kind::category;
-            use(section.headerLine) = wanted ? LineUse::header : LineUse::ignored;
-            if (!wanted)
-                out(section.headerLine).clear();
-            else if (!section.spelledRight)
-                out(section.headerLine) = section.header;
-            if (section.kind == QifFile::Kind::unknown)
-                say(section.headerLine, "unknown-section", false,
-                    "Der Abschnitt „" + TextTools::toUtf8(section.header) + "“ ist unbekannt und wird übergangen.");
+            use(section.headerLine) = isWanted(section.kind) ? LineUse::header : LineUse::ignored;
+            if (section.kind == Kind::unknown)
+                say(MessageId::qifUnknownSection, section.headerLine, {TextTools::toUtf8(section.header)});
+            if (!isWanted(section.kind))
+                continue;
+            if (section.spelledRight)
+                m_lines.keep(section.headerLine);
+            else
+                m_lines.write(section.headerLine, section.header);
         }
-        for (const int stray : m_qif.strayEnds)
-            out(stray).clear();
-    }
-
-    void clear(const QifFile::Record& record) {
-        for (int i = record.firstLine; i < record.firstLine + record.lineCount; ++i)
-            out(i).clear();
     }
 
     void handle(const QifFile::Record& record) {
-        if (kind(record) == QifFile::Kind::skipped || kind(record) == QifFile::Kind::unknown) {
-            clear(record);
+        if (!isWanted(m_qif.kindOf(record)))
             return;
-        }
         use(record.firstLine) = LineUse::record;
-        if (!check(record)) {
-            clear(record);
+        const QifFields fields(m_physical, record);
+        if (!check(record, fields))
             return;
-        }
-        forEachLine(record, [&](int number, char letter, std::string_view text) {
-            if (kind(record) == QifFile::Kind::booking && letter == 'D')
-                rewriteDate(number, TextTools::trim(text));
-            else if (isAmountLetter(letter) ? kind(record) == QifFile::Kind::booking : letter == 'B')
-                rewriteAmount(number, letter, TextTools::trim(text));
-            std::replace(out(number).begin(), out(number).end(), '\0', ' ');
-        });
+        for (const QifField& field : fields)
+            write(field, fields, m_qif.kindOf(record));
         if (!record.closed)
             close(record);
     }
 
     /// Whether the library can take the record; says why where it cannot.
-    bool check(const QifFile::Record& record) {
-        bool good = true;
-        const auto refuse = [&](int number, const char* code, const std::string& text) {
-            if (good)
-                say(number, code, true,
-                    text + " Der Datensatz ab Zeile " + std::to_string(record.firstLine + 1) +
-                        " wird nicht übernommen.");
-            good = false;
+    bool check(const QifFile::Record& record, const QifFields& fields) {
+        const std::string first = std::to_string(record.firstLine + 1);
+        const auto refuse = [&](MessageId id, int line, const std::string& what) {
+            say(id, line, {what, first});
+            return false;
         };
-        forEachLine(record, [&](int number, char letter, std::string_view raw) {
-            const std::string_view text = TextTools::trim(raw);
-            if (raw.size() + 1 > static_cast<std::size_t>(LibraryReading::kMaxLineLength))
-                refuse(number, "line-too-long",
-                       "Die Zeile ist länger als " + std::to_string(LibraryReading::kMaxLineLength) + " Zeichen.");
-            if (kind(record) != QifFile::Kind::booking)
+        for (const QifField& field : fields) {
+            if (m_lines.original(field.line).size() > static_cast<std::size_t>(LibraryReading::kMaxLineLength))
+                return refuse(MessageId::qifLineTooLong, field.line, std::to_string(LibraryReading::kMaxLineLength));
+            if (m_qif.kindOf(record) != Kind::booking || fields.first(field.letter) != &field)
+                continue;
+            if (field.letter == 'D' && !m_forms->day(field.text))
+                return refuse(MessageId::qifBadDate, field.line, TextTools::toUtf8(field.text));
+            if (isAmountLetter(field.letter) && !field.text.empty() && !m_forms->amount(field.text))
+                return refuse(MessageId::qifBadAmount, field.line, TextTools::toUtf8(field.text));
+        }
+        return record.closed || canClose(record) || refuse(MessageId::qifNotClosed, record.firstLine, {});
+    }
+
+    void write(const QifField& field, const QifFields& fields, Kind kind) {
+        std::string line;
+        if (kind == Kind::booking && isTaken(field.letter)) {
+            if (isRepeated(field, fields))
                 return;
-            if (letter == 'D' && !dayOf(text))
-                refuse(number, "bad-date", "Das Datum „" + TextTools::toUtf8(text) + "“ ist nicht lesbar.");
-            if (isAmountLetter(letter) && !text.empty() && !AmountCells::read(text, m_mark.value_or('.')))
-                refuse(number, "bad-amount", "Der Betrag „" + TextTools::toUtf8(text) + "“ ist nicht lesbar.");
-        });
-        if (good && !record.closed && !canClose(record))
-            refuse(record.firstLine, "record-not-closed", "Dem Datensatz fehlt die Endzeile „^“.");
-        return good;
+            line = rewritten(field, fields);
+        } else if (kind == Kind::category && field.letter == 'B') {
+            line = amountLine(field);
+        }
+        if (line.empty() && m_lines.original(field.line).find('\0') != std::string_view::npos)
+            line = field.letter + std::string(field.text);
+        if (line.empty()) {
+            m_lines.keep(field.line);
+            return;
+        }
+        std::replace(line.begin(), line.end(), '\0', ' ');
+        m_lines.write(field.line, std::move(line));
     }
 
-    std::optional<Day> dayOf(std::string_view text) const {
-        const auto date = DateCells::read(text);
-        return date && m_order ? date->day(*m_order, m_options.centuryWindow) : std::nullopt;
+    /// The library takes the last of several lines of a letter; the record's own
+    /// is the first, or the "T" line beside a "U" line. Texts go on in it.
+    bool isRepeated(const QifField& field, const QifFields& fields) {
+        const QifField* own = isAmountLetter(field.letter) ? fields.amount() : fields.first(field.letter);
+        if (own == nullptr || own == &field)
+            return false;
+        if (own->text != field.text && !isJoined(field.letter))
+            say(MessageId::qifFieldRepeated, field.line, {std::string_view(&field.letter, 1)});
+        return own->text != field.text || isJoined(field.letter);
     }
 
-    void rewriteDate(int number, std::string_view text) {
-        const auto date = DateCells::read(text);
-        const Day day = *dayOf(text);
-        const bool dayFirst =
-            m_order == DateOrder::dayMonthYear && date->form == DateCell::Form::numbers && !date->time;
-        if (!dayFirst && !m_libraryLearnsOrder)
-            out(number) = "D" + day.germanText();
+    static bool isJoined(char letter) { return letter == 'M' || letter == 'P'; }
+
+    /// The line as the library reads it right; empty where it does as it stands.
+    std::string rewritten(const QifField& field, const QifFields& fields) const {
+        if (field.letter == 'D')
+            return m_forms->libraryReadsDate(field.text) ? "" : "D" + m_forms->day(field.text)->germanText();
+        if (isAmountLetter(field.letter))
+            return amountLine(field);
+        if (!isJoined(field.letter))
+            return {};
+        std::string text(field.text);
+        bool joined = false;
+        for (const QifField& other : fields) {
+            if (other.letter != field.letter || &other == &field || other.text.empty())
+                continue;
+            text += ' ';
+            text += other.text;
+            joined = true;
+        }
+        return joined && text.size() < static_cast<std::size_t>(LibraryReading::kMaxLineLength) ? field.letter + text
+                                                                                                : std::string();
     }
 
-    void rewriteAmount(int number, char letter, std::string_view text) {
-        const auto amount = AmountCells::read(text, m_mark.value_or('.'));
-        if (amount && !LibraryReading::readsAmount(text, amount->value()))
-            out(number) = letter + amount->value().text();
+    std::string amountLine(const QifField& field) const {
+        const auto amount = m_forms->amount(field.text);
+        return amount && !LibraryReading::readsAmount(field.text, *amount) ? field.letter + amount->text()
+                                                                           : std::string();
     }
 
     /// The last record of the file can get its "^" behind it; one in the middle
     /// only where an empty line follows.
     bool canClose(const QifFile::Record& record) const {
         const int next = record.firstLine + record.lineCount;
-        return next >= static_cast<int>(m_out.size()) || line(next).empty();
+        return next >= static_cast<int>(m_physical.lines.size()) || content(next).empty();
     }
 
     void close(const QifFile::Record& record) {
         const int next = record.firstLine + record.lineCount;
-        if (next < static_cast<int>(m_out.size()))
-            out(next) = "^";
+        if (next < static_cast<int>(m_physical.lines.size()))
+            m_lines.write(next, "^");
         else
-            m_closingLine = true;
-        say(record.firstLine, "record-closed", false,
-            "Dem letzten Datensatz fehlte die Endzeile „^“; er wird trotzdem übernommen.");
+            m_lines.append("^");
+        say(MessageId::qifClosed, record.firstLine);
     }
 
     void finish() {
-        std::string& text = m_result.file.text;
-        for (std::size_t i = 0; i < m_out.size(); ++i) {
-            text += m_out[i];
-            if (i + 1 < m_out.size() || m_physical.endsWithNewline || m_closingLine)
-                text += '\n';
-        }
-        if (m_closingLine)
-            text += "^\n";
+        m_result.file.text = m_lines.text();
         if (m_result.found > 0)
             m_doubt += kUnreadableDoubt * m_result.file.refused / m_result.found;
         m_result.confidence = m_result.found > 0 ? std::max(0.0, 1.0 - m_doubt) : 0.0;
-        std::stable_sort(m_result.file.messages.begin(), m_result.file.messages.end(),
-                         [](const IntakeMessage& a, const IntakeMessage& b) { return a.line < b.line; });
     }
 
     const PhysicalLines& m_physical;
     const InspectionOptions& m_options;
     QifFile m_qif;
-    std::vector<std::string> m_out;
+    PreparedLines m_lines;
+    std::optional<QifForms> m_forms;
     PreparedQif m_result;
-    std::optional<char> m_mark;
-    std::optional<DateOrder> m_order;
-    bool m_libraryLearnsOrder = false;
-    bool m_closingLine = false;
     double m_doubt = 0.0;
 };
 

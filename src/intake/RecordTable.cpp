@@ -26,7 +26,11 @@ public:
         m_line = line;
         m_at = 0;
         m_plain = true;
-        while (readField()) {
+        if (text().find('"') == std::string_view::npos) {
+            splitAtDelimiters();
+        } else {
+            while (readField()) {
+            }
         }
         record.cellCount = static_cast<int>(m_table.m_cells.size() - record.firstCell);
         record.lineCount = static_cast<int>(m_line - line) + 1;
@@ -40,12 +44,27 @@ public:
 private:
     std::string_view text() const { return m_lines[m_line]; }
 
+    bool isPadding(char c) const { return c == ' ' && m_delimiter != ' '; }
+
+    /// A line without quotes, which is what most lines are.
+    void splitAtDelimiters() {
+        const std::string_view line = text();
+        std::size_t from = 0;
+        for (std::size_t at = 0; at < line.size(); ++at) {
+            if (line[at] != m_delimiter)
+                continue;
+            m_table.m_cells.push_back(line.substr(from, at - from));
+            from = at + 1;
+        }
+        m_table.m_cells.push_back(line.substr(from));
+    }
+
     /// Reads one field; false when it was the line's last.
     bool readField() {
         std::size_t start = m_at;
-        while (start < text().size() && text()[start] == ' ' && m_delimiter != ' ')
+        while (start < text().size() && isPadding(text()[start]))
             ++start;
-        if (start < text().size() && text()[start] == '"' && readQuotedField(start + 1))
+        if (start < text().size() && text()[start] == '"' && readQuotedField(start))
             return m_more;
         const std::size_t end = std::min(text().find(m_delimiter, m_at), text().size());
         std::string_view field = text().substr(m_at, end - m_at);
@@ -78,59 +97,55 @@ private:
     /// the end of the line, blanks before it skipped. npos for no closing quote.
     std::size_t endBehindQuote(std::string_view line, std::size_t at) const {
         std::size_t end = at + 1;
-        while (end < line.size() && line[end] == ' ' && m_delimiter != ' ')
+        while (end < line.size() && isPadding(line[end]))
             ++end;
         return end == line.size() || line[end] == m_delimiter ? end : std::string_view::npos;
     }
 
-    /// Reads a field behind its opening quote. False, and nothing is read, when
-    /// no closing quote follows within reason.
-    bool readQuotedField(std::size_t begin) {
-        std::string joined;
-        bool rewritten = false;
-        std::size_t line = m_line;
-        std::size_t from = begin;
+    /// Reads a field whose opening quote stands at `quote`. False, and nothing
+    /// is read, when no closing quote follows within reason: a quote that opens
+    /// by mistake must not swallow the bookings below it up to the next one.
+    bool readQuotedField(std::size_t quote) {
+        std::string joined; // what is read so far, where it is no piece of one line
+        bool oddQuote = false;
+        std::size_t from = quote + 1;
         const std::size_t lastLine = std::min(m_lines.size(), m_line + kMaxLinesOfField);
-        for (; line < lastLine; ++line, from = 0) {
+        for (std::size_t line = m_line; line < lastLine; ++line, from = 0) {
             const std::string_view current = m_lines[line];
             std::size_t at = from;
             while ((at = current.find('"', at)) != std::string_view::npos) {
                 const std::size_t end = endBehindQuote(current, at);
                 const bool doubled = at + 1 < current.size() && current[at + 1] == '"';
                 if (end != std::string_view::npos && !doubled) {
-                    finishQuotedField(line, end, current.substr(from, at - from), joined, rewritten);
-                    m_plain = m_plain && end == at + 1 && begin == m_fieldStart() + 1;
+                    const bool tight = quote == m_at && end == at + 1;
+                    m_plain = m_plain && tight && !oddQuote && line == m_line;
+                    storeQuoted(line, end, current.substr(from, at - from), std::move(joined));
                     return true;
                 }
+                if (!doubled && line > m_line)
+                    return false;
                 joined.append(current, from, at - from + 1);
-                rewritten = true;
-                m_oddQuote = m_oddQuote || !doubled;
+                oddQuote = oddQuote || !doubled;
                 at += doubled ? 2 : 1;
                 from = at;
             }
+            if (oddQuote)
+                return false;
             joined.append(current, from, std::string_view::npos);
             joined += '\n';
-            rewritten = true;
         }
-        m_oddQuote = false;
         return false;
     }
 
-    std::size_t m_fieldStart() const { return m_lastFieldStart; }
-
-    void finishQuotedField(std::size_t line, std::size_t end, std::string_view tail, std::string& joined,
-                           bool rewritten) {
-        m_lastFieldStart = m_line == line ? m_at : 0;
-        m_plain = m_plain && !m_oddQuote && line == m_line;
-        m_oddQuote = false;
+    void storeQuoted(std::size_t line, std::size_t end, std::string_view tail, std::string&& joined) {
         m_line = line;
-        if (rewritten) {
-            joined += tail;
-            m_table.m_rewritten.push_back(std::move(joined));
-            store(m_table.m_rewritten.back(), end);
-        } else {
+        if (joined.empty()) {
             store(tail, end);
+            return;
         }
+        joined += tail;
+        m_table.m_rewritten.push_back(std::move(joined));
+        store(m_table.m_rewritten.back(), end);
     }
 
     RecordTable& m_table;
@@ -138,15 +153,14 @@ private:
     char m_delimiter;
     std::size_t m_line = 0;
     std::size_t m_at = 0; ///< start of the next field in its line
-    std::size_t m_lastFieldStart = 0;
     bool m_more = false;
     bool m_plain = true;
-    bool m_oddQuote = false;
 };
 
 RecordTable RecordTable::read(std::span<const std::string_view> lines, char delimiter, std::size_t maxLines) {
     RecordTable table;
     Reader reader(table, lines, delimiter);
+    table.m_records.reserve(std::min(lines.size(), maxLines));
     std::size_t line = 0;
     while (line < lines.size() && line < maxLines)
         line = reader.readRecord(line);

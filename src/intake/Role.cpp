@@ -8,8 +8,9 @@ namespace {
 
 // Indexed by Role.
 constexpr std::array<std::string_view, kRoleCount> kNames = {
-    "date",         "amount",   "debit",       "credit",  "sign",   "counterparty", "recipient",   "payer",  "purpose",
-    "posting-text", "category", "subcategory", "balance", "status", "currency",     "own-account", "ignore",
+    "date",     "amount",  "debit",        "credit",   "sign",        "counterparty", "recipient",
+    "payer",    "purpose", "posting-text", "category", "subcategory", "balance",      "status",
+    "currency", "net",     "gross",        "fee",      "tax",         "ignore",
 };
 
 } // namespace

@@ -23,7 +23,10 @@ enum class Role {
     balance,
     status,
     currency,
-    ownAccount,
+    net,
+    gross,
+    fee,
+    tax,
     ignore
 };
 

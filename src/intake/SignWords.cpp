@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "intake/SignWords.h"
 
+#include <algorithm>
 #include <array>
 #include <string>
 
@@ -15,7 +16,8 @@ struct Row {
 };
 constexpr auto kMinus = AmountCell::Sign::minus;
 constexpr auto kPlus = AmountCell::Sign::plus;
-constexpr std::array<Row, 47> kRows = {{
+
+constexpr std::array<Row, 52> kMarks = {{
     {"s", kMinus},
     {"h", kPlus},
     {"soll", kMinus},
@@ -55,15 +57,61 @@ constexpr std::array<Row, 47> kRows = {{
     {"credito", kPlus},
     {"auszahlung", kMinus},
     {"einzahlung", kPlus},
-    {"lastschrift", kMinus},
     {"ausgehend", kMinus},
     {"eingehend", kPlus},
     {"income", kPlus},
     {"expense", kMinus},
     {"zahlungseingang", kPlus},
     {"zahlungsausgang", kMinus},
-    {"payment", kMinus},
+    {"outgoing", kMinus},
+    {"incoming", kPlus},
+    {"outflow", kMinus},
+    {"inflow", kPlus},
+    {"cargo", kMinus},
+    {"abono", kPlus},
+    {"depense", kMinus},
 }};
+
+// Parts of words, in this order: a returned direct debit brings the money back.
+constexpr std::array<Row, 34> kKinds = {{
+    {"ruecklastschrift", kPlus},
+    {"rueckbuchung", kPlus},
+    {"erstattung", kPlus},
+    {"rueckzahlung", kPlus},
+    {"refund", kPlus},
+    {"remboursement", kPlus},
+    {"rimborso", kPlus},
+    {"gutschrift", kPlus},
+    {"gehalt", kPlus},
+    {"lohn", kPlus},
+    {"rente", kPlus},
+    {"einzahlung", kPlus},
+    {"zahlungseingang", kPlus},
+    {"deposit", kPlus},
+    {"accredito", kPlus},
+    {"stipendio", kPlus},
+    {"lastschrift", kMinus},
+    {"abbuchung", kMinus},
+    {"belastung", kMinus},
+    {"dauerauftrag", kMinus},
+    {"kartenzahlung", kMinus},
+    {"kartenumsatz", kMinus},
+    {"bargeldauszahlung", kMinus},
+    {"auszahlung", kMinus},
+    {"geldautomat", kMinus},
+    {"card payment", kMinus},
+    {"purchase", kMinus},
+    {"withdrawal", kMinus},
+    {"direct debit", kMinus},
+    {"standing order", kMinus},
+    {"prelevement", kMinus},
+    {"retrait", kMinus},
+    {"addebito", kMinus},
+    {"prelievo", kMinus},
+}};
+
+constexpr std::size_t kLongestMark = 20;
+constexpr std::size_t kLongestKind = 60;
 
 } // namespace
 
@@ -75,14 +123,22 @@ std::optional<AmountCell::Sign> read(std::string_view cell) {
         return kMinus;
     if (text == "+")
         return kPlus;
-    if (text.empty() || text.size() > 20)
+    if (text.empty() || text.size() > kLongestMark)
         return std::nullopt;
     const std::string folded = TextTools::fold(text);
-    for (const Row& row : kRows) {
-        if (row.word == folded)
-            return row.sign;
-    }
-    return std::nullopt;
+    const auto* row = std::find_if(kMarks.begin(), kMarks.end(), [&](const Row& r) { return r.word == folded; });
+    return row == kMarks.end() ? std::nullopt : std::optional(row->sign);
+}
+
+std::optional<AmountCell::Sign> ofKind(std::string_view cell) {
+    if (const auto mark = read(cell))
+        return mark;
+    if (cell.size() > kLongestKind)
+        return std::nullopt;
+    const std::string folded = TextTools::fold(cell);
+    const auto* row =
+        std::find_if(kKinds.begin(), kKinds.end(), [&](const Row& r) { return folded.find(r.word) != folded.npos; });
+    return row == kKinds.end() ? std::nullopt : std::optional(row->sign);
 }
 
 } // namespace SignWords

@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "intake/StarMoneyLayout.h"
 
-#include "intake/BookingRow.h"
 #include "intake/LibraryReading.h"
 #include "intake/TextTools.h"
 
@@ -18,7 +17,7 @@ constexpr int kLastPurpose = 17;
 
 namespace StarMoneyLayout {
 
-bool isReadRight(const DelimitedFile& file, int centuryWindow) {
+bool isReadRight(const DelimitedFile& file) {
     const RecordTable& table = file.table;
     if (file.plan.tables.size() != 1 || file.plan.delimiter != '|')
         return false;
@@ -26,18 +25,21 @@ bool isReadRight(const DelimitedFile& file, int centuryWindow) {
     if (plan.region.header != std::size_t{0} || plan.sign != SignRule::asWritten || plan.roles.date != kDate ||
         plan.roles.amount != kAmount || TextTools::fold(table.cell(0, kFirstPurpose)) != "vwz1")
         return false;
-    for (std::size_t i = 0; i < table.size(); ++i) {
+    const auto fits = [&](std::size_t i) {
         const auto& record = table.record(i);
         if (record.blank && record.cellCount == 1)
-            continue;
+            return true;
         if (record.cellCount != kColumns || record.lineCount != 1)
             return false;
-        if (i == 0)
-            continue;
-        const BookingRow row = BookingRows::read(table, i, plan, centuryWindow);
-        if (row.kind != BookingRow::Kind::booking ||
-            !LibraryReading::readsDate(TextTools::trim(table.cell(i, kDate)), *row.day, centuryWindow) ||
-            !LibraryReading::readsAmount(table.cell(i, kAmount), *row.amount))
+        if (i < plan.region.begin)
+            return true;
+        const BookingRow& row = file.rows.front()[i - plan.region.begin];
+        return row.kind == BookingRow::Kind::booking &&
+               LibraryReading::readsDate(TextTools::trim(table.cell(i, kDate)), *row.day, plan.centuryWindow) &&
+               LibraryReading::readsAmount(table.cell(i, kAmount), *row.amount);
+    };
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        if (!fits(i))
             return false;
     }
     return true;

@@ -16,7 +16,7 @@ namespace StarMoneyLayout {
 
 /// Whether every line that is not empty has the 21 fields under the names that
 /// go with them, and the library reads every date and amount as `file`'s plan does.
-bool isReadRight(const DelimitedFile& file, int centuryWindow);
+bool isReadRight(const DelimitedFile& file);
 
 /// Hands the lines over as they are, with line feeds.
 void prepareFixed(const PhysicalLines& physical, PreparedFile& prepared);

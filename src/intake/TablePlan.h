@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
-#include <cstddef>
+#include <optional>
 #include <vector>
 
 #include "intake/ColumnRoles.h"
@@ -12,10 +12,11 @@
 /// Where the sign of an amount comes from.
 enum class SignRule {
     asWritten,
-    signColumn, ///< a word beside the amount
-    twoColumns, ///< debit and credit
-    inverted,   ///< a card statement that counts charges as positive
-    fromBalance ///< the running balance tells
+    signColumn,    ///< a word beside the amount
+    kindOfBooking, ///< the posting text, where no amount has a sign
+    twoColumns,    ///< debit and credit
+    inverted,      ///< a card statement that counts charges as positive
+    fromBalance    ///< the running balance tells
 };
 
 /// Whether balances in the file confirm the reading.
@@ -26,7 +27,11 @@ struct TablePlan {
     TableRegion region;
     ColumnRoles roles;
     DateOrder dateOrder = DateOrder::dayMonthYear;
+    int centuryWindow = 30;
+    /// Where dates have no year: the last day of the statement, from above the table.
+    std::optional<Day> lastDay;
     char decimalMark = ',';
+    bool markByUser = false;
     SignRule sign = SignRule::asWritten;
     bool debitIsNegative = false; ///< of two columns: the debits carry their minus
     BalanceProof balance = BalanceProof::none;

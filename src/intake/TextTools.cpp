@@ -54,21 +54,21 @@ std::string fold(std::string_view text) {
     return out;
 }
 
+std::string utf8Of(char32_t c) {
+    const auto tail = [&](unsigned shift) { return static_cast<char>(0x80U | (c >> shift & 0x3FU)); };
+    if (c < 0x80)
+        return {static_cast<char>(c)};
+    if (c < 0x800)
+        return {static_cast<char>(0xC0U | c >> 6U), tail(0)};
+    if (c < 0x10000)
+        return {static_cast<char>(0xE0U | c >> 12U), tail(6), tail(0)};
+    return {static_cast<char>(0xF0U | c >> 18U), tail(12), tail(6), tail(0)};
+}
+
 std::string toUtf8(std::string_view hostText) {
     std::string out;
-    for (const char byte : hostText) {
-        const char32_t c = Windows1252::characterOf(byte);
-        if (c < 0x80) {
-            out += static_cast<char>(c);
-        } else if (c < 0x800) {
-            out += static_cast<char>(0xC0U | c >> 6U);
-            out += static_cast<char>(0x80U | (c & 0x3FU));
-        } else {
-            out += static_cast<char>(0xE0U | c >> 12U);
-            out += static_cast<char>(0x80U | (c >> 6U & 0x3FU));
-            out += static_cast<char>(0x80U | (c & 0x3FU));
-        }
-    }
+    for (const char byte : hostText)
+        out += utf8Of(Windows1252::characterOf(byte));
     return out;
 }
 

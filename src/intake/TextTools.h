@@ -21,6 +21,7 @@ std::string_view trim(std::string_view text);
 /// blank, none at the ends.
 std::string fold(std::string_view text);
 
+std::string utf8Of(char32_t character);
 /// For messages.
 std::string toUtf8(std::string_view hostText);
 

@@ -1,0 +1,62 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "intake/MonthNames.h"
+
+#include <algorithm>
+#include <array>
+#include <string>
+
+#include "intake/TextTools.h"
+
+namespace {
+
+struct MonthName {
+    std::string_view name; ///< folded
+    int month;
+};
+constexpr std::array<MonthName, 56> kMonths = {{
+    {"januar", 1},    {"jaenner", 1},   {"january", 1},    {"janvier", 1},   {"gennaio", 1},   {"enero", 1},
+    {"februar", 2},   {"feber", 2},     {"february", 2},   {"fevrier", 2},   {"febbraio", 2},  {"febrero", 2},
+    {"maerz", 3},     {"mrz", 3},       {"march", 3},      {"mars", 3},      {"marzo", 3},     {"maart", 3},
+    {"mrt", 3},       {"april", 4},     {"avril", 4},      {"aprile", 4},    {"abril", 4},     {"mai", 5},
+    {"may", 5},       {"maggio", 5},    {"mayo", 5},       {"mei", 5},       {"juni", 6},      {"june", 6},
+    {"juin", 6},      {"giugno", 6},    {"juli", 7},       {"july", 7},      {"juillet", 7},   {"luglio", 7},
+    {"julio", 7},     {"august", 8},    {"aout", 8},       {"agosto", 8},    {"augustus", 8},  {"september", 9},
+    {"septembre", 9}, {"settembre", 9}, {"septiembre", 9}, {"oktober", 10},  {"october", 10},  {"octobre", 10},
+    {"ottobre", 10},  {"octubre", 10},  {"november", 11},  {"novembre", 11}, {"dezember", 12}, {"december", 12},
+    {"decembre", 12}, {"dicembre", 12},
+}};
+constexpr std::size_t kShortest = 3;
+
+constexpr std::array<std::string_view, 40> kWeekdays = {
+    "mo",        "di",         "mi",      "do",       "fr",        "sa",      "so",     "mon",
+    "tue",       "wed",        "thu",     "fri",      "sat",       "sun",     "montag", "dienstag",
+    "mittwoch",  "donnerstag", "freitag", "samstag",  "sonnabend", "sonntag", "monday", "tuesday",
+    "wednesday", "thursday",   "friday",  "saturday", "sunday",    "lun",     "mar",    "mer",
+    "jeu",       "ven",        "sam",     "dim",      "gio",       "sab",     "dom",    "tues",
+};
+
+} // namespace
+
+namespace MonthNames {
+
+int month(std::string_view word) {
+    const std::string folded = TextTools::fold(word);
+    if (folded.size() < kShortest)
+        return 0;
+    int found = 0;
+    for (const MonthName& row : kMonths) {
+        if (!row.name.starts_with(folded))
+            continue;
+        if (found != 0 && found != row.month)
+            return 0;
+        found = row.month;
+    }
+    return found;
+}
+
+bool isWeekday(std::string_view word) {
+    return std::find(kWeekdays.begin(), kWeekdays.end(), TextTools::fold(word)) != kWeekdays.end();
+}
+
+} // namespace MonthNames
