@@ -7,10 +7,7 @@
 namespace {
 
 const Command* const kCommands[] = {
-    &kFormatsCommand,
-    &kPreviewCommand,
-    &kImportCommand,
-    &kShowCommand,
+    &kFormatsCommand, &kPreviewCommand, &kImportCommand, &kAccountsCommand, &kBookingsCommand, &kShowCommand,
 };
 
 } // namespace

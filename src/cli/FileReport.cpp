@@ -2,17 +2,9 @@
 // SPDX-License-Identifier: MIT
 #include "cli/FileReport.h"
 
-#include <algorithm>
-
 #include "cli/SafeText.h"
 
 namespace {
-
-Json json(const LineCounts& lines) {
-    return {{"read", lines.read},         {"records", lines.records}, {"header", lines.header},
-            {"preamble", lines.preamble}, {"footer", lines.footer},   {"blank", lines.blank},
-            {"ignored", lines.ignored}};
-}
 
 std::string counted(std::size_t count, const char* one, const char* many) {
     return std::to_string(count) + " " + (count == 1 ? one : many);
@@ -20,12 +12,17 @@ std::string counted(std::size_t count, const char* one, const char* many) {
 
 } // namespace
 
-bool FileReport::isClean() const {
-    return std::none_of(messages.begin(), messages.end(),
-                        [](const Message& message) { return message.texts().severity == Severity::error; });
+namespace FileReportText {
+
+Json json(const LineCounts& lines) {
+    return {{"read", lines.read},         {"records", lines.records}, {"header", lines.header},
+            {"preamble", lines.preamble}, {"footer", lines.footer},   {"blank", lines.blank},
+            {"ignored", lines.ignored}};
 }
 
-namespace FileReportText {
+Json json(const RecordCounts& records) {
+    return {{"found", records.found}, {"imported", records.imported}, {"refused", records.refused}};
+}
 
 Json json(const std::vector<Message>& messages) {
     Json list = Json::array();
@@ -47,12 +44,9 @@ Json json(const FileReport& report) {
                    {"sessionId", report.sessionId},
                    {"errorText", report.errorText},
                    {"committed", report.committed},
-                   {"lines", ::json(report.lines)}};
-    if (report.records) {
-        object["records"] = {{"found", report.records->found},
-                             {"imported", report.records->imported},
-                             {"refused", report.records->refused}};
-    }
+                   {"lines", json(report.lines)}};
+    if (report.records)
+        object["records"] = json(*report.records);
     object["messages"] = json(report.messages);
     return object;
 }

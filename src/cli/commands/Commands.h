@@ -7,4 +7,6 @@
 extern const Command kFormatsCommand;
 extern const Command kPreviewCommand;
 extern const Command kImportCommand;
+extern const Command kAccountsCommand;
+extern const Command kBookingsCommand;
 extern const Command kShowCommand;

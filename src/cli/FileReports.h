@@ -1,0 +1,36 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "cli/Console.h"
+#include "cli/ExitStatus.h"
+#include "cli/JsonText.h"
+
+/// Tells what became of the files of a call, each as soon as that is known.
+class FileReports {
+public:
+    explicit FileReports(Console& console) : m_console(console) {}
+
+    /// Does `work`, which adds the report of each file, and ends the document. A
+    /// StoreError of it becomes part of the document, and the status.
+    ExitStatus collect(const std::function<void()>& work);
+
+    /// What is to be said of a file (the shell's bytes): to the machine, in a
+    /// line to a person, and of its problems to both.
+    void add(const std::string& file, const Json& json, const std::string& summary,
+             const std::vector<Message>& messages);
+
+private:
+    void end(const Json& error);
+
+    Console& m_console;
+    Json m_files = Json::array();
+    bool m_clean = true;
+};
+
+/// Standard input can be read once. Throws UsageError where it is named twice.
+void checkFiles(const std::vector<std::string>& files);

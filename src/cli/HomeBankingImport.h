@@ -1,0 +1,45 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#pragma once
+
+#include <optional>
+
+#include "cli/Console.h"
+#include "cli/HomeBankingDocument.h"
+#include "cli/HomeBankingReport.h"
+#include "cli/HomeBankingWatch.h"
+#include "cli/StoreAtPath.h"
+#include "cli/XmlDocumentFile.h"
+#include "cli/XmlList.h"
+#include "cli/XmlText.h"
+#include "datamodel/DataManager.h"
+
+/// The import of one home-banking document into a store: one transaction, which
+/// a failure takes back unless the person wants to keep what was written before
+/// it.
+class HomeBankingImport {
+public:
+    /// Both must outlive the object.
+    HomeBankingImport(XmlDocumentFile& file, const HomeBankingDocument& document, bool keepPartial);
+
+    /// Throws StoreError; `report` then says how far it came.
+    void run(StoreAtPath& store, const Console& console);
+    const HomeBankingReport& report() const { return m_report; }
+
+private:
+    void askForWords();
+    void importInto(DataManager& model, const Console& console);
+    bool call(const XmlImportData& data);
+    void judgeAccounts(DataManager& model);
+    void judgeBookings(const HomeBankingWatch& watch, DataManager& model);
+    void countRecords(std::size_t imported);
+    void fail(Message message);
+
+    XmlDocumentFile& m_file;
+    const HomeBankingDocument& m_document;
+    bool m_keepPartial;
+    XmlText m_text;
+    XmlList m_list;
+    HomeBankingReport m_report;
+    bool m_failed = false; ///< the document as a whole
+};
