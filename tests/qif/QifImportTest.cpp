@@ -385,11 +385,13 @@ TEST_P(QifImport, PreviewHasAHeaderAndARowForEachRecord) {
 }
 
 TEST_P(QifImport, PreviewWritesNothing) {
-    TextImport::preview("!Type:Bank\nT1\n^\n");
+    EXPECT_EQ(preview("!Type:Bank\nT1\n^\n", m_model).result, 2);
     EXPECT_THAT(records(), IsEmpty());
     EXPECT_EQ(m_model.integer("NextImportID"), 1);
     EXPECT_EQ(m_model.integer("NextUniqueID"), 1);
+    EXPECT_EQ(m_model.rows("Importsessions"), 0);
     EXPECT_EQ(m_model.kind("LetztesImportDatum"), DataType::eEmpty);
+    EXPECT_EQ(m_model.kind("NeueDatenVorhanden"), DataType::eEmpty);
 }
 
 TEST_P(QifImport, RecordsCarryTheSessionAndIdentifiersOfTheirOwn) {
@@ -411,8 +413,8 @@ TEST_P(QifImport, RefusedValueEndsTheWritingAndTheResultStays) {
     EXPECT_EQ(run.result, 1);
     EXPECT_EQ(run.importedCount, 1);
     EXPECT_EQ(run.errorText, "Fehler beim Analysieren der Daten aus der XML-Datei.<br>"
-                             "Zeile 3: 99999999999999<br>") // the header row and the first record count
-    ;
+                             "Zeile 3: 99999999999999<br>")
+        << "the header row and the first record count";
     EXPECT_THAT(records(), ElementsAre(ImportedRecord{.category = "Bankkonten", .amount = "1,00"}));
 }
 

@@ -160,7 +160,8 @@ TEST_P(StarMoney, EmptyFileImportsNothing) {
 TEST_P(StarMoney, PreviewShowsTheNamesOfTheFileInTheOrderOfTheFields) {
     const TextImportResult run =
         preview(starMoneyHeader() +
-                StarMoneyLine{.payee = "Shop", .amount = "-1234,5", .purpose = {"a", "b"}, .category = "c"}.text());
+                    StarMoneyLine{.payee = "Shop", .amount = "-1234,5", .purpose = {"a", "b"}, .category = "c"}.text(),
+                m_model);
     EXPECT_EQ(run.result, 2);
     EXPECT_EQ(run.importedCount, 1);
     EXPECT_THAT(run.preview.header, ElementsAre("AgName1", "Kategorie", "Unterkat",
@@ -168,6 +169,8 @@ TEST_P(StarMoney, PreviewShowsTheNamesOfTheFileInTheOrderOfTheFields) {
                                                 "Buchungstext", "BuchDatum", "Betrag"));
     EXPECT_THAT(run.preview.rows, ElementsAre(ElementsAre("Shop", "c", "", "ab", "", "31.12.2004", "-1.234,50")));
     EXPECT_EQ(m_model.rows("DataSets"), 0);
+    EXPECT_EQ(m_model.integer("NextUniqueID"), 1);
+    EXPECT_EQ(m_model.kind("LetztesImportDatum"), DataType::eEmpty);
 }
 
 TEST_P(StarMoney, LineOfAnotherWidthEndsTheRunAndEarlierRecordsStay) {

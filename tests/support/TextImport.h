@@ -68,7 +68,9 @@ template <typename Module>
 class TextImport : public SmartDateFixture, public testing::WithParamInterface<ImportWay> {
 protected:
     TextImportResult import(std::string_view bytes, const FinanceModel& into) const { return run(bytes, into, false); }
-    TextImportResult preview(std::string_view bytes) const { return run(bytes, FinanceModel(), true); }
+    TextImportResult preview(std::string_view bytes, const FinanceModel& into = FinanceModel()) const {
+        return run(bytes, into, true);
+    }
 
 private:
     TextImportResult run(std::string_view bytes, const FinanceModel& into, bool simulate) const {
