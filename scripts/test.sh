@@ -5,6 +5,7 @@
 # Installs what is missing, builds the project and runs all tests.
 #
 # usage: scripts/test.sh [OPTION...]     without options: the tests, built with g++
+#   --format     layout of the sources (scripts/lint.sh --format)
 #   --lint       layout and lint of the sources (scripts/lint.sh)
 #   --clang      build with clang++, warnings are errors
 #   --sanitize   the tests under AddressSanitizer and UndefinedBehaviorSanitizer
@@ -33,6 +34,11 @@ do_lint() {
     scripts/lint.sh
 }
 
+do_format() {
+    step "Layout"
+    scripts/lint.sh --format
+}
+
 do_clang() {
     step "Build with clang++"
     build clang
@@ -59,7 +65,7 @@ do_tests() {
 declare -A chosen=()
 for option in "$@"; do
     case $option in
-    --lint | --clang | --sanitize | --coverage | --tests) chosen[${option#--}]=1 ;;
+    --format | --lint | --clang | --sanitize | --coverage | --tests) chosen[${option#--}]=1 ;;
     --all) chosen=([lint]=1 [clang]=1 [sanitize]=1 [coverage]=1 [tests]=1) ;;
     --help) usage && exit 0 ;;
     *)
@@ -75,7 +81,7 @@ fi
 
 step "Packages"
 scripts/install-packages.sh build
-for name in lint clang sanitize coverage tests; do
+for name in format lint clang sanitize coverage tests; do
     [[ -n ${chosen[$name]:-} ]] || continue
     [[ $name == tests || $name == sanitize ]] || scripts/install-packages.sh check
     "do_$name"
