@@ -1,5 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ImportModule authors
 // SPDX-License-Identifier: MIT
+#include <algorithm>
 #include <array>
 
 #include "intake/Money.h"
@@ -79,12 +80,13 @@ private:
 
     bool peelCurrency() {
         for (const std::string_view currency : kCurrencies) {
-            if (m_text.starts_with(currency) && !continuesWord(currency.size())) {
+            const bool ahead = m_text.front() == currency.front() && m_text.starts_with(currency);
+            if (ahead && !continuesWord(currency.size())) {
                 m_text.remove_prefix(currency.size());
                 m_out.currency = true;
                 return true;
             }
-            if (m_text.ends_with(currency)) {
+            if (m_text.back() == currency.back() && m_text.ends_with(currency)) {
                 m_text.remove_suffix(currency.size());
                 m_out.currency = true;
                 return true;
@@ -163,6 +165,8 @@ bool readNumber(std::string_view text, char decimalMark, AmountCell& out) {
 namespace AmountCells {
 
 std::optional<AmountCell> read(std::string_view cell, char decimalMark) {
+    if (std::none_of(cell.begin(), cell.end(), TextTools::isDigit))
+        return std::nullopt;
     AmountCell amount;
     const auto number = Peeler(cell, amount).number();
     if (!number || number->empty() || !readNumber(*number, decimalMark, amount))

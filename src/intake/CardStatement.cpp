@@ -34,18 +34,27 @@ bool mentions(std::string_view folded, std::span<const std::string_view> words) 
                        [&](std::string_view word) { return folded.find(word) != std::string_view::npos; });
 }
 
-/// How the bookings of one sign speak.
-struct Voices {
+/// How one booking speaks.
+struct Voice {
+    bool purchase; ///< and does not mention a payment
+    bool payment;
+    bool thanks;
+    bool card; ///< something stands in a column of cards or merchants
+};
+
+/// How the positive ones speak together.
+struct Positives {
     int count = 0;
-    int purchases = 0; ///< and do not mention a payment
+    int purchases = 0;
     int payments = 0;
     int thanks = 0;
-    int cards = 0; ///< filled in a column of cards or merchants
+    int cards = 0;
 };
 
 class Judge {
 public:
-    Judge(const RecordTable& table, const TablePlan& plan) : m_table(table), m_plan(plan) {
+    Judge(const RecordTable& table, const TablePlan& plan, const std::vector<BookingRow>& rows)
+        : m_table(table), m_plan(plan), m_rows(rows) {
         const std::size_t top = plan.region.header ? *plan.region.header + 1 : plan.region.begin;
         for (std::size_t i = 0; i < top; ++i)
             m_namesCard = m_namesCard || mentions(textOf(i), kCard);
@@ -58,19 +67,43 @@ public:
         }
     }
 
-    CardSigns judge(const std::vector<BookingRow>& rows) {
-        for (std::size_t i = 0; i < rows.size(); ++i) {
-            if (rows[i].kind == BookingRow::Kind::booking && !rows[i].amount->isZero())
-                hear(rows[i].amount->isNegative() ? m_negative : m_positive, m_plan.region.begin + i);
+    CardSigns judge() {
+        const auto negatives = recordsOf([](const Money& amount) { return amount.isNegative(); });
+        const auto positives = recordsOf([](const Money& amount) { return !amount.isNegative(); });
+        // More is bought with a card than paid to it.
+        if (positives.empty() || negatives.size() > positives.size())
+            return CardSigns::asWritten;
+        // What is negative must be payments and money back, each of them.
+        bool thanked = !negatives.empty();
+        for (const std::size_t record : negatives) {
+            const Voice voice = hear(record);
+            if (!voice.payment || voice.purchase)
+                return CardSigns::asWritten;
+            thanked = thanked && voice.thanks;
         }
-        if (m_positive.count == 0 || m_positive.thanks > 0)
-            return m_negative.count == 0 && m_positive.thanks > 0 && isCard() && m_positive.thanks < m_positive.count
-                       ? CardSigns::unclear
-                       : CardSigns::asWritten;
-        return m_negative.count == 0 ? withoutNegatives() : withBoth();
+        if (!hearPositives(positives, negatives.empty()))
+            return CardSigns::asWritten;
+        if (negatives.empty())
+            return withoutNegatives();
+        if (m_positives.thanks > 0)
+            return CardSigns::asWritten;
+        const bool inverted = thanked || m_positives.purchases == m_positives.count ||
+                              (isCard() && positives.size() >= 2 * negatives.size());
+        return inverted ? CardSigns::inverted : CardSigns::asWritten;
     }
 
 private:
+    template <typename Test>
+    std::vector<std::size_t> recordsOf(Test test) const {
+        std::vector<std::size_t> records;
+        for (std::size_t i = 0; i < m_rows.size(); ++i) {
+            const BookingRow& row = m_rows[i];
+            if (row.kind == BookingRow::Kind::booking && !row.amount->isZero() && test(*row.amount))
+                records.push_back(m_plan.region.begin + i);
+        }
+        return records;
+    }
+
     std::string textOf(std::size_t record) const {
         std::string text;
         for (const std::string_view cell : m_table.cells(record))
@@ -78,47 +111,51 @@ private:
         return text;
     }
 
-    void hear(Voices& voices, std::size_t record) const {
+    Voice hear(std::size_t record) const {
         const std::string text = textOf(record);
+        Voice voice{};
+        voice.thanks = mentions(text, kThanks);
         const bool payment = mentions(text, kPayment);
-        const bool thanks = mentions(text, kThanks);
-        ++voices.count;
-        voices.payments += payment || thanks ? 1 : 0;
-        voices.thanks += thanks ? 1 : 0;
-        voices.purchases += !payment && mentions(text, kPurchase) ? 1 : 0;
-        voices.cards += std::any_of(m_cardColumns.begin(), m_cardColumns.end(),
-                                    [&](int column) { return !TextTools::trim(m_table.cell(record, column)).empty(); });
+        voice.payment = payment || voice.thanks;
+        voice.purchase = !payment && mentions(text, kPurchase);
+        voice.card = std::any_of(m_cardColumns.begin(), m_cardColumns.end(),
+                                 [&](int column) { return !TextTools::trim(m_table.cell(record, column)).empty(); });
+        return voice;
+    }
+
+    /// False as soon as nothing can make it a card statement any more.
+    bool hearPositives(const std::vector<std::size_t>& records, bool alone) {
+        for (const std::size_t record : records) {
+            const Voice voice = hear(record);
+            ++m_positives.count;
+            m_positives.purchases += voice.purchase ? 1 : 0;
+            m_positives.payments += voice.payment ? 1 : 0;
+            m_positives.thanks += voice.thanks ? 1 : 0;
+            m_positives.cards += voice.card ? 1 : 0;
+            const bool couldBeCard = m_namesCard || m_positives.cards == m_positives.count;
+            if (alone && !couldBeCard && m_positives.purchases < m_positives.count)
+                return false;
+        }
+        return true;
     }
 
     /// The file is about a card, and so is what has a positive amount.
-    bool isCard() const { return m_namesCard || (m_positive.cards > 0 && m_positive.cards == m_positive.count); }
+    bool isCard() const { return m_namesCard || m_positives.cards == m_positives.count; }
 
     CardSigns withoutNegatives() const {
-        if (m_positive.purchases == m_positive.count)
+        if (m_positives.purchases == m_positives.count)
             return CardSigns::inverted;
-        if (!isCard())
-            return CardSigns::asWritten;
-        if (m_positive.payments == 0)
+        if (m_positives.payments == 0)
             return CardSigns::inverted;
-        return m_positive.payments == m_positive.count ? CardSigns::asWritten : CardSigns::unclear;
-    }
-
-    CardSigns withBoth() const {
-        // What is negative must be payments and money back, each of them.
-        if (m_negative.payments < m_negative.count || m_negative.purchases > 0)
-            return CardSigns::asWritten;
-        const bool thanked = m_negative.thanks == m_negative.count && m_positive.count >= m_negative.count;
-        const bool inverted = thanked || m_positive.purchases == m_positive.count ||
-                              (isCard() && m_positive.count >= 2 * m_negative.count);
-        return inverted ? CardSigns::inverted : CardSigns::asWritten;
+        return m_positives.payments == m_positives.count ? CardSigns::asWritten : CardSigns::unclear;
     }
 
     const RecordTable& m_table;
     const TablePlan& m_plan;
+    const std::vector<BookingRow>& m_rows;
     std::vector<int> m_cardColumns;
     bool m_namesCard = false;
-    Voices m_positive;
-    Voices m_negative;
+    Positives m_positives;
 };
 
 } // namespace
@@ -126,7 +163,7 @@ private:
 namespace CardStatements {
 
 CardSigns signs(const RecordTable& table, const TablePlan& plan, const std::vector<BookingRow>& rows) {
-    return Judge(table, plan).judge(rows);
+    return Judge(table, plan, rows).judge();
 }
 
 } // namespace CardStatements

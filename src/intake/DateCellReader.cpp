@@ -154,6 +154,35 @@ std::optional<DateCell> readNumbers(Scanner scan) {
     return cell;
 }
 
+/// "31.12.2024" and "2024-12-31", as most dates are written.
+std::optional<DateCell> readTenCharacters(std::string_view text) {
+    const auto digits = [&](std::size_t at, std::size_t count) {
+        int value = 0;
+        for (; count > 0; --count, ++at) {
+            if (!TextTools::isDigit(text[at]))
+                return -1;
+            value = value * 10 + (text[at] - '0');
+        }
+        return value;
+    };
+    const bool yearFirst = text[4] == '-' && text[7] == '-';
+    const char separator = yearFirst ? '-' : text[2];
+    if (!yearFirst && (text[5] != separator || (separator != '.' && separator != '/' && separator != '-')))
+        return std::nullopt;
+    DateCell cell;
+    cell.numbers[0] = yearFirst ? digits(0, 4) : digits(0, 2);
+    cell.numbers[1] = yearFirst ? digits(5, 2) : digits(3, 2);
+    cell.numbers[2] = yearFirst ? digits(8, 2) : digits(6, 4);
+    if (cell.numbers[0] < 0 || cell.numbers[1] < 0 || cell.numbers[2] < 0)
+        return std::nullopt;
+    cell.digits[0] = yearFirst ? 4 : 2;
+    cell.digits[1] = 2;
+    cell.digits[2] = yearFirst ? 2 : 4;
+    cell.separator = separator;
+    cell.plain = true;
+    return cell;
+}
+
 /// A cell that begins with a word: a month, or a weekday before the date.
 std::optional<DateCell> readWord(Scanner scan) {
     if (auto named = readNamed(scan)) // "Mar" is a month and a Tuesday
@@ -172,6 +201,10 @@ std::optional<DateCell> read(std::string_view raw) {
     const std::string_view text = TextTools::trim(raw);
     if (text.size() < kShortestDate || text.size() > kLongestDate)
         return std::nullopt;
+    if (text.size() == 10) {
+        if (auto usual = readTenCharacters(text))
+            return usual;
+    }
     const Scanner scan(text);
     if (TextTools::isDigit(text.front())) {
         auto compact = readCompact(text);

@@ -22,14 +22,9 @@ class HostTextWriter {
 public:
     explicit HostTextWriter(HostFileText& out) : m_out(out) {}
 
-    void ascii(std::string_view run) {
-        m_out.text += run;
-        m_line += static_cast<int>(std::count(run.begin(), run.end(), '\n'));
-    }
+    void ascii(std::string_view run) { m_out.text += run; }
 
     void character(char32_t c) {
-        if (c == U'\n')
-            ++m_line;
         if (const auto byte = Windows1252::byteOf(c)) {
             m_out.text += *byte;
             return;
@@ -37,7 +32,7 @@ public:
         auto [at, isNew] = m_out.substitutions.try_emplace(c);
         if (isNew) {
             at->second.replacement = Transliteration::toHostBytes(c);
-            at->second.firstLine = m_line;
+            at->second.firstLine = line();
         }
         ++at->second.count;
         m_out.text += at->second.replacement;
@@ -45,13 +40,22 @@ public:
 
     void broken() {
         if (m_out.brokenLine == 0)
-            m_out.brokenLine = m_line;
+            m_out.brokenLine = line();
         m_out.text += '?';
     }
 
 private:
+    /// Only what is reported needs a line number.
+    int line() {
+        const auto from = m_out.text.begin() + static_cast<std::ptrdiff_t>(m_counted);
+        m_line += static_cast<int>(std::count(from, m_out.text.end(), '\n'));
+        m_counted = m_out.text.size();
+        return m_line;
+    }
+
     HostFileText& m_out;
     int m_line = 1;
+    std::size_t m_counted = 0; ///< bytes of the text that `m_line` accounts for
 };
 
 std::size_t asciiRun(std::string_view bytes, std::size_t from) {

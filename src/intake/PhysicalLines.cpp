@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "intake/PhysicalLines.h"
 
-#include <algorithm>
-
 namespace LineSplitting {
 
 std::string_view name(LineEnds ends) {
@@ -29,7 +27,8 @@ PhysicalLines split(std::string_view text) {
     std::size_t withReturn = 0;
     std::size_t ends = 0;
     std::size_t from = 0;
-    result.lines.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), end)) + 1);
+    constexpr std::size_t kUsualLength = 64;
+    result.lines.reserve(text.size() / kUsualLength + 1);
     for (;;) {
         const std::size_t at = text.find(end, from);
         if (at == std::string_view::npos)

@@ -20,14 +20,6 @@ constexpr std::array<const char*, 64> kLetters = {
 
 namespace TextTools {
 
-std::string_view trim(std::string_view text) {
-    while (!text.empty() && isBlank(text.front()))
-        text.remove_prefix(1);
-    while (!text.empty() && isBlank(text.back()))
-        text.remove_suffix(1);
-    return text;
-}
-
 std::string fold(std::string_view text) {
     std::string out;
     bool gap = false;

@@ -14,7 +14,13 @@ inline bool isBlank(char c) { return c == ' ' || c == '\t' || c == kNoBreakSpace
 inline bool isDigit(char c) { return c >= '0' && c <= '9'; }
 inline bool isAsciiLetter(char c) { return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z'); }
 
-std::string_view trim(std::string_view text);
+inline std::string_view trim(std::string_view text) {
+    while (!text.empty() && isBlank(text.front()))
+        text.remove_prefix(1);
+    while (!text.empty() && isBlank(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
 
 /// For comparing names: lower case, umlauts and accents as ASCII letters (ä ->
 /// ae, é -> e), every run of anything that is neither letter nor digit as one
