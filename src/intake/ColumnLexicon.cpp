@@ -23,8 +23,13 @@ std::string_view nextWord(std::string_view& line) {
     return takeUpTo(line, ' ');
 }
 
-constexpr std::array<std::string_view, 16> kUnits = {"eur", "euro", "chf", "usd", "gbp", "sek", "nok", "dkk",
-                                                     "pln", "czk",  "huf", "aud", "cad", "jpy", "dm",  "ats"};
+constexpr std::array<std::string_view, 30> kUnits = {
+    "eur", "euro", "euros", "chf", "usd", "gbp", "sek", "nok", "dkk", "isk", "pln", "czk", "huf", "ron", "bgn",
+    "aud", "cad",  "nzd",   "jpy", "sgd", "hkd", "zar", "try", "inr", "brl", "mxn", "dm",  "ats", "kr",  "zl",
+};
+
+/// Written as a sign: the euro, the pound, the dollar, the yen.
+constexpr std::string_view kUnitSigns = "\x80\xA3$\xA5";
 
 bool isUnit(std::string_view word) { return std::find(kUnits.begin(), kUnits.end(), word) != kUnits.end(); }
 
@@ -41,14 +46,24 @@ std::string withWordsApart(std::string_view name) {
     return out.size() == name.size() ? std::string() : out;
 }
 
-/// "betrag in eur" and "betrag eur" are both "betrag".
-std::string withoutUnits(std::string_view folded) {
+std::string withSignsAsUnits(std::string_view name) {
+    std::string out;
+    for (const char c : name)
+        (kUnitSigns.find(c) == std::string_view::npos ? out += c : out += " eur ");
+    return out;
+}
+
+/// "betrag in eur" and "betrag eur" are both "betrag"; but "money in gbp" is
+/// "money in", for which `in` says to keep that word.
+enum class In { drop, keep };
+std::string withoutUnits(std::string_view folded, In in) {
     std::vector<std::string_view> words;
     while (!folded.empty())
         words.push_back(nextWord(folded));
     std::string out;
     for (std::size_t i = 0; i < words.size(); ++i) {
-        const bool inUnit = (words[i] == "in" || words[i] == "en") && i + 1 < words.size() && isUnit(words[i + 1]);
+        const bool inUnit =
+            in == In::drop && (words[i] == "in" || words[i] == "en") && i + 1 < words.size() && isUnit(words[i + 1]);
         if (inUnit || (isUnit(words[i]) && words.size() > 1))
             continue;
         if (!out.empty())
@@ -128,12 +143,19 @@ void ColumnLexicon::add(How how, Entry entry) {
 }
 
 RoleScores ColumnLexicon::scores(std::string_view columnName) const {
-    RoleScores result = scoresOf(withoutUnits(TextTools::fold(columnName)));
-    if (const std::string apart = withWordsApart(columnName); !apart.empty()) {
-        const RoleScores others = scoresOf(withoutUnits(TextTools::fold(apart)));
+    const std::string name = withSignsAsUnits(columnName);
+    const std::string folded = TextTools::fold(name);
+    const std::string whole = withoutUnits(folded, In::drop);
+    RoleScores result = scoresOf(whole);
+    const auto countAlso = [&](const std::string& other) {
+        if (other.empty() || other == whole)
+            return;
+        const RoleScores others = scoresOf(other);
         for (std::size_t i = 0; i < kRoleCount; ++i)
             result.scores[i] = std::max(result.scores[i], others.scores[i]);
-    }
+    };
+    countAlso(withoutUnits(folded, In::keep));
+    countAlso(withoutUnits(TextTools::fold(withWordsApart(name)), In::drop));
     return result;
 }
 

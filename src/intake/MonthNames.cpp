@@ -14,17 +14,24 @@ struct MonthName {
     std::string_view name; ///< folded
     int month;
 };
-constexpr std::array<MonthName, 56> kMonths = {{
-    {"januar", 1},    {"jaenner", 1},   {"january", 1},    {"janvier", 1},   {"gennaio", 1},   {"enero", 1},
-    {"februar", 2},   {"feber", 2},     {"february", 2},   {"fevrier", 2},   {"febbraio", 2},  {"febrero", 2},
-    {"maerz", 3},     {"mrz", 3},       {"march", 3},      {"mars", 3},      {"marzo", 3},     {"maart", 3},
-    {"mrt", 3},       {"april", 4},     {"avril", 4},      {"aprile", 4},    {"abril", 4},     {"mai", 5},
-    {"may", 5},       {"maggio", 5},    {"mayo", 5},       {"mei", 5},       {"juni", 6},      {"june", 6},
-    {"juin", 6},      {"giugno", 6},    {"juli", 7},       {"july", 7},      {"juillet", 7},   {"luglio", 7},
-    {"julio", 7},     {"august", 8},    {"aout", 8},       {"agosto", 8},    {"augustus", 8},  {"september", 9},
-    {"septembre", 9}, {"settembre", 9}, {"septiembre", 9}, {"oktober", 10},  {"october", 10},  {"octobre", 10},
-    {"ottobre", 10},  {"octubre", 10},  {"november", 11},  {"novembre", 11}, {"dezember", 12}, {"december", 12},
-    {"decembre", 12}, {"dicembre", 12},
+constexpr std::array<MonthName, 97> kMonths = {{
+    {"januar", 1},     {"jaenner", 1},   {"january", 1},      {"janvier", 1},       {"gennaio", 1},    {"enero", 1},
+    {"januari", 1},    {"janeiro", 1},   {"styczen", 1},      {"stycznia", 1},      {"februar", 2},    {"feber", 2},
+    {"february", 2},   {"fevrier", 2},   {"febbraio", 2},     {"febrero", 2},       {"februari", 2},   {"fevereiro", 2},
+    {"luty", 2},       {"lutego", 2},    {"maerz", 3},        {"mrz", 3},           {"march", 3},      {"mars", 3},
+    {"marzo", 3},      {"maart", 3},     {"mrt", 3},          {"marco", 3},         {"marzec", 3},     {"marca", 3},
+    {"april", 4},      {"avril", 4},     {"aprile", 4},       {"abril", 4},         {"kwiecien", 4},   {"kwietnia", 4},
+    {"mai", 5},        {"may", 5},       {"maggio", 5},       {"mayo", 5},          {"mei", 5},        {"maj", 5},
+    {"maio", 5},       {"maja", 5},      {"juni", 6},         {"june", 6},          {"juin", 6},       {"giugno", 6},
+    {"junio", 6},      {"junho", 6},     {"czerwiec", 6},     {"czerwca", 6},       {"juli", 7},       {"july", 7},
+    {"juillet", 7},    {"luglio", 7},    {"julio", 7},        {"julho", 7},         {"lipiec", 7},     {"lipca", 7},
+    {"august", 8},     {"aout", 8},      {"agosto", 8},       {"augustus", 8},      {"augusti", 8},    {"sierpien", 8},
+    {"sierpnia", 8},   {"september", 9}, {"septembre", 9},    {"settembre", 9},     {"septiembre", 9}, {"setembro", 9},
+    {"wrzesien", 9},   {"wrzesnia", 9},  {"oktober", 10},     {"october", 10},      {"octobre", 10},   {"ottobre", 10},
+    {"octubre", 10},   {"outubro", 10},  {"pazdziernik", 10}, {"pazdziernika", 10}, {"november", 11},  {"novembre", 11},
+    {"noviembre", 11}, {"novembro", 11}, {"listopad", 11},    {"listopada", 11},    {"dezember", 12},  {"december", 12},
+    {"decembre", 12},  {"dicembre", 12}, {"diciembre", 12},   {"dezembro", 12},     {"desember", 12},  {"grudzien", 12},
+    {"grudnia", 12},
 }};
 constexpr std::size_t kShortest = 3;
 
