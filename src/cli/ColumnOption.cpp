@@ -53,11 +53,11 @@ int columnNumber(std::string_view text) {
     return number;
 }
 
-Import::E_ColumnIndex fieldIndex(std::string_view name) {
-    const auto* found = std::find(std::begin(kFields), std::end(kFields), name);
-    if (found == std::end(kFields))
+Import::E_ColumnIndex namedField(std::string_view name) {
+    const std::optional<Import::E_ColumnIndex> field = ColumnOption::fieldIndex(name);
+    if (!field)
         refuse("Das Feld " + inMarks(name) + " gibt es nicht." + Suggestion::question(name, fieldNames()));
-    return static_cast<Import::E_ColumnIndex>(found - std::begin(kFields));
+    return *field;
 }
 
 void add(ColumnAssignment& assignment, std::string_view pair) {
@@ -65,7 +65,7 @@ void add(ColumnAssignment& assignment, std::string_view pair) {
     if (equals == std::string_view::npos)
         refuse("In " + inMarks(pair) + " fehlt das „=“.");
     const int column = columnNumber(trimmed(pair.substr(0, equals)));
-    const Import::E_ColumnIndex field = fieldIndex(trimmed(pair.substr(equals + 1)));
+    const Import::E_ColumnIndex field = namedField(trimmed(pair.substr(equals + 1)));
     for (int i = 0; i < assignment.m_count; ++i) {
         if (assignment.m_pairs[i].m_inputColumn == column)
             refuse("Die Spalte " + std::to_string(column) + " ist zweimal genannt; sie kann nur ein Feld füllen.");
@@ -88,6 +88,13 @@ ColumnAssignment parse(std::string_view text) {
             return assignment;
         text.remove_prefix(comma + 1);
     }
+}
+
+std::optional<Import::E_ColumnIndex> fieldIndex(std::string_view name) {
+    const auto* found = std::find(std::begin(kFields), std::end(kFields), name);
+    if (found == std::end(kFields))
+        return std::nullopt;
+    return static_cast<Import::E_ColumnIndex>(found - std::begin(kFields));
 }
 
 const char* fieldName(Import::E_ColumnIndex column) { return kFields[column]; }

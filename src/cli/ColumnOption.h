@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string_view>
 
 #include "framework/ColumnAssignment.h"
@@ -14,6 +15,8 @@ namespace ColumnOption {
 /// without a word: a column or a field named twice.
 ColumnAssignment parse(std::string_view text);
 
+/// The field of that name in the data model.
+std::optional<Import::E_ColumnIndex> fieldIndex(std::string_view name);
 /// The data model's name of a field.
 const char* fieldName(Import::E_ColumnIndex column);
 

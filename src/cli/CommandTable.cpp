@@ -7,7 +7,8 @@
 namespace {
 
 const Command* const kCommands[] = {
-    &kFormatsCommand, &kPreviewCommand, &kImportCommand, &kAccountsCommand, &kBookingsCommand, &kShowCommand,
+    &kFormatsCommand,  &kInspectCommand,  &kPreviewCommand, &kImportCommand,
+    &kAccountsCommand, &kBookingsCommand, &kShowCommand,
 };
 
 } // namespace

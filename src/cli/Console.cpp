@@ -93,7 +93,7 @@ bool Console::finish() {
         m_failed = true;
     if (m_failed) {
         const Message message = Message::of(Problem::outputFailed, {});
-        complain(MessageText::renderError(message.fullText(), message.texts().code, m_colorsMessages));
+        complain(MessageText::renderError(message.fullText(), message.code, m_colorsMessages));
     }
     return !m_failed;
 }

@@ -5,9 +5,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "cli/ColumnOption.h"
 #include "cli/HostText1252.h"
 #include "cli/LibraryFailure.h"
+#include "cli/LineAccount.h"
 #include "cli/RefusalMessages.h"
 #include "cli/SafeText.h"
 #include "datamodel/DataModel.h"
@@ -20,14 +20,14 @@ FileImport::FileImport(const FileReading& reading, const ImportWishes& wishes) :
 }
 
 void FileImport::run(StoreAtPath& storeAtPath, const Console& console) {
-    if (!mayImport()) {
+    if (m_reading.isRefused()) {
         askForWords();
-        countLines();
+        m_report.lines = LineAccount::of(m_reading, m_report);
         return;
     }
     Store& store = storeAtPath.forWriting();
     importInto(store.model(), console);
-    countLines();
+    m_report.lines = LineAccount::of(m_reading, m_report);
     const bool keeps = !m_failed || (m_wishes.keepPartial && m_report.importedCount > 0);
     if (keeps) {
         store.commit();
@@ -36,16 +36,6 @@ void FileImport::run(StoreAtPath& storeAtPath, const Console& console) {
         store.rollback();
         m_report.sessionId = 0;
     }
-}
-
-bool FileImport::mayImport() {
-    if (m_reading.isRefused())
-        return false;
-    if (m_reading.traits().takesColumns() && m_reading.columns() == nullptr && !m_reading.isVerbatim()) {
-        fail(Message::of(Problem::columnsMissing, {}));
-        return false;
-    }
-    return true;
 }
 
 /// A file that cannot be opened harms nobody; the library has a text for it.
@@ -77,40 +67,23 @@ void FileImport::judge(const RunOutcome& outcome, const ModelWatch& watch, const
     m_report.importedCount = outcome.importedCount;
     m_report.errorText = outcome.errorText;
     m_report.sessionId = added.sessionId();
-    m_report.refusedCount = watch.refusals().size();
+    m_report.refusedCount = m_reading.refusedBefore() + watch.refusals().size();
     std::vector<Message> refusals = RefusalMessages::of(watch.refusals(), m_reading);
     m_report.messages.insert(m_report.messages.end(), refusals.begin(), refusals.end());
 
     // A format that writes after reading stops at the first record that it cannot write.
-    const bool stopped = !m_reading.traits().recordPerLine && m_report.refusedCount > 0;
+    const bool stopped = !m_reading.traits().recordPerLine && !watch.refusals().empty();
     const bool nothing = m_report.refusedCount > 0 && m_report.importedCount == 0;
     m_failed = m_failed || stopped || nothing;
     if (watch.refusedBookkeeping())
         fail(Message::of(Problem::bookkeepingRefused, {*watch.refusedBookkeeping()}));
-    if (outcome.result != 0)
-        judgeColumns(added);
-    else if (refusals.empty()) // a refused record that ended the import has its message
+    if (outcome.result == 0 && watch.refusals().empty()) // a refused record that ended the import has its message
         fail(LibraryFailure::message(m_reading, outcome));
-    else
-        m_failed = true;
+    m_failed = m_failed || outcome.result == 0;
     noteUndated(watch, added);
     countRecords(watch);
-    if (const std::optional<Message> doubt = m_reading.doubtOfDelimiter(); doubt && m_failed)
-        m_report.messages.push_back(*doubt);
     std::stable_sort(m_report.messages.begin(), m_report.messages.end(),
                      [](const Message& a, const Message& b) { return a.line < b.line; });
-}
-
-/// A column that no line has is a slip of the pen, and would otherwise fill the
-/// store with records that lack a field.
-void FileImport::judgeColumns(const NewRecords& added) {
-    if (m_reading.isVerbatim() || !m_reading.traits().takesColumns() || m_report.importedCount == 0)
-        return;
-    const ColumnAssignment& columns = *m_reading.columns();
-    for (int i = 0; i < columns.m_count; ++i) {
-        if (!added.anyHas(ColumnOption::fieldName(columns.m_pairs[i].m_column)))
-            fail(m_reading.columnOutside(columns.m_pairs[i]));
-    }
 }
 
 void FileImport::noteUndated(const ModelWatch& watch, const NewRecords& added) {
@@ -138,29 +111,13 @@ void FileImport::countRecords(const ModelWatch& watch) {
         return;
     RecordCounts counts;
     counts.imported = static_cast<std::size_t>(m_report.importedCount);
-    counts.refused = watch.refusals().size();
+    counts.refused = m_report.refusedCount;
     counts.found = counts.imported + counts.refused;
-    if (counts.refused > 0) {
+    if (!watch.refusals().empty()) {
         LibraryRun run; // those behind the one that stopped the import are seen by a simulated one only
-        counts.found = static_cast<std::size_t>(m_reading.simulate(run).importedCount);
+        counts.found = m_reading.refusedBefore() + static_cast<std::size_t>(m_reading.simulate(run).importedCount);
     }
     m_report.records = counts;
-}
-
-void FileImport::countLines() {
-    const FileCensus& census = m_reading.census();
-    LineCounts& lines = m_report.lines;
-    lines.read = census.lines();
-    lines.blank = census.blankLines();
-    const std::size_t handled = static_cast<std::size_t>(m_report.importedCount) + m_report.refusedCount;
-    const bool wasRead = m_report.result != 0 || handled > 0;
-    if (m_reading.traits().recordPerLine) {
-        lines.records = handled;
-        lines.header = wasRead && m_reading.hasHeader() ? std::min<std::size_t>(census.readLines(), 1) : 0;
-    } else if (wasRead) {
-        lines.records = census.readLines();
-    }
-    lines.ignored = lines.read - lines.blank - lines.header - lines.records;
 }
 
 void FileImport::fail(Message message) {

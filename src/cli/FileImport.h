@@ -30,13 +30,10 @@ public:
     const FileReport& report() const { return m_report; }
 
 private:
-    bool mayImport();
     void askForWords();
     void importInto(DataManager& model, const Console& console);
     void judge(const RunOutcome& outcome, const ModelWatch& watch, const NewRecords& added);
-    void judgeColumns(const NewRecords& added);
     void noteUndated(const ModelWatch& watch, const NewRecords& added);
-    void countLines();
     void countRecords(const ModelWatch& watch);
     void fail(Message message);
 

@@ -28,7 +28,7 @@ Json json(const std::vector<Message>& messages) {
     Json list = Json::array();
     for (const Message& message : messages) {
         list.push_back({{"line", message.line ? Json(*message.line) : Json(nullptr)},
-                        {"code", message.texts().code},
+                        {"code", message.code},
                         {"text", message.fullText()}});
     }
     return list;

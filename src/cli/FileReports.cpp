@@ -21,9 +21,8 @@ ExitStatus FileReports::collect(const std::function<void()>& work) {
 
 void FileReports::add(const std::string& file, const Json& json, const std::string& summary,
                       const std::vector<Message>& messages) {
-    m_clean = m_clean && std::none_of(messages.begin(), messages.end(), [](const Message& message) {
-                  return message.texts().severity == Severity::error;
-              });
+    m_clean = m_clean &&
+              std::none_of(messages.begin(), messages.end(), [](const Message& message) { return message.isError(); });
     if (m_console.json())
         m_files.push_back(json);
     else

@@ -53,16 +53,20 @@ const FormatTraits* byOptionName(std::string_view name) {
     return found != std::end(kFormats) ? found : nullptr;
 }
 
-Import::E_SupportedImportFormats ofFileName(const std::string& name) {
+std::optional<Import::E_SupportedImportFormats> byExtension(const std::string& name) {
     const std::string::size_type dot = name.rfind('.');
     if (dot == std::string::npos)
-        return Import::eFormatCSV;
+        return std::nullopt;
     const std::string extension = name.substr(dot + 1);
     for (const ImportExternData::FileFormatInfo& info : ImportExternData::getSupportedFileFormats()) {
         if (CrossPlatformApi::strCmpNoCase(info.m_extension.c_str(), extension.c_str()) == 0)
             return info.m_format;
     }
-    return Import::eFormatCSV;
+    return std::nullopt;
+}
+
+Import::E_SupportedImportFormats ofFileName(const std::string& name) {
+    return byExtension(name).value_or(Import::eFormatCSV);
 }
 
 std::string extensionOf(Import::E_SupportedImportFormats format) { return listed(format).m_extension; }

@@ -31,6 +31,8 @@ const FormatTraits& of(Import::E_SupportedImportFormats format);
 /// By the name that --format uses.
 const FormatTraits* byOptionName(std::string_view name);
 
+/// The format whose extension the name has, if it is one of the list.
+std::optional<Import::E_SupportedImportFormats> byExtension(const std::string& name);
 /// The format that the front door picks for a file of that name.
 Import::E_SupportedImportFormats ofFileName(const std::string& name);
 /// An extension by which the front door picks that format, without the dot.

@@ -11,6 +11,7 @@
 #include <system_error>
 #include <unistd.h>
 
+#include "cli/Descriptor.h"
 #include "cli/FormatTable.h"
 #include "cli/SystemText.h"
 #include "datamodel/HostText.h"
@@ -18,24 +19,6 @@
 namespace {
 
 constexpr const char* kStandardInput = "-";
-
-/// An open file, closed in the end.
-class Descriptor {
-public:
-    explicit Descriptor(int number) : m_number(number) {}
-    ~Descriptor() {
-        if (m_number > STDERR_FILENO)
-            ::close(m_number);
-    }
-    Descriptor(const Descriptor&) = delete;
-    Descriptor& operator=(const Descriptor&) = delete;
-
-    int number() const { return m_number; }
-    bool isOpen() const { return m_number >= 0; }
-
-private:
-    int m_number;
-};
 
 int openForReading(const std::string& path) { return ::open(path.c_str(), O_RDONLY | O_CLOEXEC); }
 
@@ -50,6 +33,14 @@ bool writeAll(int target, const char* bytes, std::size_t size) {
         size -= static_cast<std::size_t>(written);
     }
     return true;
+}
+
+/// A new file. Throws std::system_error.
+int create(const std::string& path) {
+    const int number = ::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR);
+    if (number < 0)
+        throw std::system_error(errno, std::generic_category());
+    return number;
 }
 
 Problem problemOf(int error) { return error == ENOENT ? Problem::fileMissing : Problem::fileUnreadable; }
@@ -98,9 +89,7 @@ void InputFile::look() {
 
 void InputFile::copy(int source) {
     const std::string path = folder().entry("copy");
-    const Descriptor target(::open(path.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, S_IRUSR | S_IWUSR));
-    if (!target.isOpen())
-        throw std::system_error(errno, std::generic_category());
+    const Descriptor target(create(path));
     std::array<char, 1 << 16> block;
     for (;;) {
         const ssize_t count = ::read(source, block.data(), block.size());
@@ -125,8 +114,6 @@ ScratchFolder& InputFile::folder() {
     return *m_folder;
 }
 
-Import::E_SupportedImportFormats InputFile::formatByName() const { return FormatTable::ofFileName(m_argument); }
-
 std::string InputFile::libraryName(Import::E_SupportedImportFormats format) {
     const std::optional<std::string> name = HostText::utf8ToLatin1(m_path);
     if (name && FormatTable::ofFileName(*name) == format)
@@ -136,4 +123,12 @@ std::string InputFile::libraryName(Import::E_SupportedImportFormats format) {
     if (::symlink(target.c_str(), link.c_str()) != 0 && errno != EEXIST)
         throw std::system_error(errno, std::generic_category());
     return *HostText::utf8ToLatin1(link);
+}
+
+std::string InputFile::nameOfPrepared(std::string_view bytes, Import::E_SupportedImportFormats format) {
+    m_path = folder().entry("prepared." + FormatTable::extensionOf(format));
+    const Descriptor target(create(m_path));
+    if (!writeAll(target.number(), bytes.data(), bytes.size()))
+        throw std::system_error(errno, std::generic_category());
+    return *HostText::utf8ToLatin1(m_path);
 }

@@ -5,6 +5,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "cli/Message.h"
 #include "cli/ScratchFolder.h"
@@ -30,11 +31,13 @@ public:
     /// Whether the library may be called with it: it can come to no harm there.
     bool mayBeAsked() const { return m_mayBeAsked; }
 
-    /// The format that its name stands for.
-    Import::E_SupportedImportFormats formatByName() const;
     /// The name, Latin-1, under which the front door reads it in that format.
     /// Throws std::system_error when a link cannot be made.
     std::string libraryName(Import::E_SupportedImportFormats format);
+    /// The name, Latin-1, under which the front door reads `bytes` in place of
+    /// the file; from now on they are what lies at `path`. Once at most. Throws
+    /// std::system_error.
+    std::string nameOfPrepared(std::string_view bytes, Import::E_SupportedImportFormats format);
 
 private:
     void look();

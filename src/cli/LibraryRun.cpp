@@ -11,10 +11,10 @@ RunOutcome LibraryRun::run(const RunRequest& request, Node* target) {
     params.m_importInfo = request.info.c_str();
     params.m_firstLineIsHeader = request.header ? 1 : 0;
     params.m_simulate = request.simulate ? 1 : 0;
-    ColumnAssignment columns = request.columns != nullptr ? *request.columns : ColumnAssignment{};
+    ColumnAssignment columns = request.columns.value_or(ColumnAssignment{});
 
     RunOutcome outcome;
-    outcome.result = m_door.importFile(params, request.delimiter, request.columns != nullptr ? &columns : nullptr);
+    outcome.result = m_door.importFile(params, request.delimiter, request.columns ? &columns : nullptr);
     outcome.importedCount = m_door.getLastImportedDataSetsCount();
     outcome.sessionId = m_door.getLastImportedSessionID();
     const char* error = m_door.getErrorMsg();

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "framework/ColumnAssignment.h"
@@ -11,7 +12,7 @@
 struct RunRequest {
     std::string fileName; ///< Latin-1; its extension picks the module
     char delimiter = ',';
-    const ColumnAssignment* columns = nullptr; ///< null for none
+    std::optional<ColumnAssignment> columns;
     bool header = false;
     bool simulate = true;
     std::string info;

@@ -4,10 +4,14 @@
 
 Message Message::of(Problem problem, std::initializer_list<std::string_view> arguments,
                     std::optional<std::size_t> line) {
-    return {problem, line, ProblemTexts::filled(ProblemTexts::of(problem).text, arguments), {}, 0, 0};
+    const ProblemTexts& texts = ProblemTexts::of(problem);
+    Message message;
+    message.code = texts.code;
+    message.severity = texts.severity;
+    message.line = line;
+    message.text = ProblemTexts::filled(texts.text, arguments);
+    message.hint = texts.hint;
+    return message;
 }
 
-std::string Message::fullText() const {
-    const std::string_view hint = texts().hint;
-    return hint.empty() ? text : text + " " + std::string(hint);
-}
+std::string Message::fullText() const { return hint.empty() ? text : text + " " + hint; }

@@ -19,13 +19,19 @@ constexpr const char* kIndent = "    ";
 using MessageIterator = std::vector<Message>::const_iterator;
 
 std::string label(Severity severity, bool color) {
-    return severity == Severity::error ? colored("Fehler:", Color::red, color)
-                                       : colored("Achtung:", Color::yellow, color);
+    switch (severity) {
+    case Severity::error:
+        return colored("Fehler:", Color::red, color);
+    case Severity::warning:
+        return colored("Achtung:", Color::yellow, color);
+    case Severity::note:
+        break;
+    }
+    return "Hinweis:";
 }
 
 bool continues(const Message& first, const Message& last, const Message& next) {
-    return first.problem == next.problem && first.text == next.text && last.line && next.line &&
-           *next.line == *last.line + 1;
+    return first.code == next.code && first.text == next.text && last.line && next.line && *next.line == *last.line + 1;
 }
 
 /// Where the message is: "name", "name:7" or "name:7-12".
@@ -50,9 +56,10 @@ std::string excerpt(const Message& message, bool color) {
     return text;
 }
 
-void appendHint(std::string& text, const ProblemTexts& texts, std::set<Problem>& hinted) {
-    if (*texts.hint != '\0' && hinted.insert(texts.problem).second)
-        text += "  Hinweis: " + std::string(texts.hint) + "\n";
+/// A hint is given once for all messages of its code.
+void appendHint(std::string& text, const Message& message, std::set<std::string>& hinted) {
+    if (!message.hint.empty() && hinted.insert(message.code).second)
+        text += "  Hinweis: " + message.hint + "\n";
 }
 
 /// "7-12, 14": ascending numbers.
@@ -70,18 +77,25 @@ std::string ranges(const std::vector<std::size_t>& numbers) {
     return text;
 }
 
-/// Those that are too many to be told one by one: their lines, by problem.
-std::string remainder(std::string_view file, MessageIterator at, MessageIterator end, std::set<Problem>& hinted,
+/// Those that are too many to be told one by one: their lines, by code.
+std::string remainder(std::string_view file, MessageIterator at, MessageIterator end, std::set<std::string>& hinted,
                       bool color) {
-    std::map<Problem, std::vector<std::size_t>> lines;
-    for (; at != end; ++at)
-        lines[at->problem].push_back(at->line.value_or(0));
+    struct Group {
+        const Message* first = nullptr;
+        std::vector<std::size_t> lines;
+    };
+    std::map<std::string, Group> groups;
+    for (; at != end; ++at) {
+        Group& group = groups[at->code];
+        if (group.first == nullptr)
+            group.first = &*at;
+        group.lines.push_back(at->line.value_or(0));
+    }
     std::string text;
-    for (const auto& [problem, numbers] : lines) {
-        const ProblemTexts& texts = ProblemTexts::of(problem);
-        text += SafeText::printable(file) + ": " + label(texts.severity, color) + " ebenso die Zeilen " +
-                ranges(numbers) + " [" + texts.code + "]\n";
-        appendHint(text, texts, hinted);
+    for (const auto& [code, group] : groups) {
+        text += SafeText::printable(file) + ": " + label(group.first->severity, color) + " ebenso die Zeilen " +
+                ranges(group.lines) + " [" + code + "]\n";
+        appendHint(text, *group.first, hinted);
     }
     return text;
 }
@@ -92,7 +106,7 @@ namespace MessageText {
 
 std::string render(std::string_view file, const std::vector<Message>& messages, bool color) {
     std::string text;
-    std::set<Problem> hinted;
+    std::set<std::string> hinted;
     std::size_t told = 0;
     for (auto at = messages.begin(); at != messages.end();) {
         if (at->line && ++told > kMostInFull)
@@ -100,12 +114,11 @@ std::string render(std::string_view file, const std::vector<Message>& messages, 
         auto end = at + 1;
         while (end != messages.end() && continues(*at, *(end - 1), *end))
             ++end;
-        const ProblemTexts& texts = at->texts();
-        text += place(file, *at, *(end - 1)) + ": " + label(texts.severity, color) + " " +
-                SafeText::printable(at->text) + " [" + texts.code + "]\n";
+        text += place(file, *at, *(end - 1)) + ": " + label(at->severity, color) + " " + SafeText::printable(at->text) +
+                " [" + at->code + "]\n";
         if (!at->excerpt.empty() && end == at + 1)
             text += excerpt(*at, color);
-        appendHint(text, texts, hinted);
+        appendHint(text, *at, hinted);
         at = end;
     }
     return text;

@@ -28,15 +28,6 @@ std::vector<std::size_t> NewRecords::undated() const {
     return found;
 }
 
-bool NewRecords::anyHas(std::string_view field) const {
-    TableNode& table = dataSets(m_model);
-    for (unsigned row = m_recordsBefore + 1; row <= table.getNodeCount(); ++row) {
-        if (ModelTables::field(*table.row(row), field).kind() != DataType::eEmpty)
-            return true;
-    }
-    return false;
-}
-
 bool NewRecords::hasSession() const { return sessions(m_model).getNodeCount() > m_sessionsBefore; }
 
 int NewRecords::sessionId() const {

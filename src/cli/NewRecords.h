@@ -4,7 +4,6 @@
 
 #include <cstddef>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "datamodel/DataManager.h"
@@ -16,8 +15,6 @@ public:
 
     /// The new rows of "DataSets" without a date, from 1 over the new ones.
     std::vector<std::size_t> undated() const;
-    /// Whether a field was filled in any new row of "DataSets".
-    bool anyHas(std::string_view field) const;
 
     /// The session of the import; 0 when it wrote none.
     int sessionId() const;

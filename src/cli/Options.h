@@ -14,6 +14,9 @@ struct Options {
     std::optional<std::string> store;
     std::optional<std::string> columns;
     std::optional<std::string> delimiter;
+    std::optional<std::string> encoding;
+    std::optional<std::string> dateOrder;
+    std::optional<std::string> decimal;
     std::optional<std::string> format;
     std::optional<std::string> info;
     std::optional<std::string> limit;

@@ -11,6 +11,7 @@
 enum class Severity {
     error,   ///< something asked for was not done
     warning, ///< it was done, and there is something to know
+    note,    ///< what was done, for who wants to know it exactly
 };
 
 /// One entry of the list of all problems.

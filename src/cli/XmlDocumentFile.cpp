@@ -9,6 +9,7 @@
 #include <limits>
 #include <system_error>
 
+#include "cli/FormatTable.h"
 #include "cli/SystemText.h"
 
 namespace {
@@ -44,7 +45,7 @@ std::optional<std::string> XmlDocumentFile::nameForTheLibrary() {
     if (!m_input.mayBeAsked())
         return std::nullopt;
     try {
-        return m_input.libraryName(m_input.formatByName());
+        return m_input.libraryName(FormatTable::ofFileName(m_input.argument()));
     } catch (const std::system_error&) {
         return std::nullopt; // no link to it could be made: there is a message about the file anyway
     }

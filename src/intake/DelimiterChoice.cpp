@@ -4,8 +4,13 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
+#include <map>
+#include <string>
 
 #include "intake/ColumnChooser.h"
+#include "intake/Dates.h"
+#include "intake/Money.h"
 #include "intake/RecordTable.h"
 #include "intake/TableFinder.h"
 
@@ -20,9 +25,27 @@ constexpr double kForKnownNames = 150.0;
 constexpr double kForAmountByName = 50.0;
 constexpr int kMostColumns = 12;
 
-double understanding(const RecordTable& table, const ColumnLexicon& lexicon, std::optional<bool> header) {
+/// Where the user says what the columns are, only those count.
+double understandingOfColumns(const RecordTable& table, const std::map<std::string, int>& columns) {
+    const auto date = columns.find("Datum");
+    const auto amount = columns.find("Betrag");
+    if (date == columns.end() || amount == columns.end())
+        return 0;
+    double bookings = 0;
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        const std::string_view cell = table.cell(i, amount->second);
+        const bool isBooking = DateCells::read(table.cell(i, date->second)) &&
+                               (AmountCells::read(cell, ',') || AmountCells::read(cell, '.'));
+        bookings += isBooking ? kForBooking : 0.0;
+    }
+    return bookings;
+}
+
+double understanding(const RecordTable& table, const ColumnLexicon& lexicon, const InspectionOptions& options) {
+    if (options.columns)
+        return understandingOfColumns(table, *options.columns);
     double best = 0;
-    for (const TableRegion& region : TableFinder::find(table, lexicon, header)) {
+    for (const TableRegion& region : TableFinder::find(table, lexicon, options.header)) {
         const ColumnChoice choice = ColumnChooser::choose(table, region, lexicon);
         if (!choice.roles.complete())
             continue;
@@ -36,11 +59,23 @@ double understanding(const RecordTable& table, const ColumnLexicon& lexicon, std
     return best;
 }
 
+/// How many lines have as many of the characters as most that have any.
+std::size_t evenness(std::span<const std::string_view> lines, char delimiter) {
+    std::map<std::ptrdiff_t, std::size_t> linesOfCount;
+    for (const std::string_view line : lines)
+        ++linesOfCount[std::count(line.begin(), line.end(), delimiter)];
+    linesOfCount.erase(0);
+    std::size_t most = 0;
+    for (const auto& [count, number] : linesOfCount)
+        most = std::max(most, number);
+    return most;
+}
+
 } // namespace
 
 namespace DelimiterChoice {
 
-char choose(std::span<const std::string_view> lines, std::optional<bool> header, const ColumnLexicon& lexicon) {
+char choose(std::span<const std::string_view> lines, const InspectionOptions& options, const ColumnLexicon& lexicon) {
     const auto sample = lines.subspan(0, std::min(lines.size(), kSample));
     char best = kDelimiters.front();
     double bestScore = 0;
@@ -49,13 +84,16 @@ char choose(std::span<const std::string_view> lines, std::optional<bool> header,
         if (std::none_of(sample.begin(), sample.end(), occurs))
             continue;
         const RecordTable table = RecordTable::read(sample, delimiter, sample.size());
-        const double score = understanding(table, lexicon, header);
+        const double score = understanding(table, lexicon, options);
         if (score > bestScore) {
             best = delimiter;
             bestScore = score;
         }
     }
-    return best;
+    if (bestScore > 0)
+        return best;
+    return *std::max_element(kDelimiters.begin(), kDelimiters.end(),
+                             [&](char a, char b) { return evenness(sample, a) < evenness(sample, b); });
 }
 
 } // namespace DelimiterChoice

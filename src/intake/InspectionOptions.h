@@ -5,6 +5,7 @@
 #include <map>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "intake/Dates.h"
 #include "intake/Encoding.h"
@@ -18,6 +19,8 @@ struct InspectionOptions {
     std::optional<char> decimalMark;
     /// Field of the data model to input column (from 0).
     std::optional<std::map<std::string, int>> columns;
+    /// Beside those: columns whose texts go on in "Verwendungszweck".
+    std::vector<int> furtherPurpose;
     bool allowUndated = false; ///< records without a readable date are taken
     int centuryWindow = 30;
 };

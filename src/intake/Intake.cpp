@@ -9,6 +9,7 @@
 #include "intake/DelimitedPreparation.h"
 #include "intake/HostTextReader.h"
 #include "intake/MessageTexts.h"
+#include "intake/PreparedLines.h"
 #include "intake/QifPreparation.h"
 #include "intake/StarMoneyLayout.h"
 #include "intake/TextTools.h"
@@ -44,6 +45,20 @@ const std::vector<FixedLayout>& fixedLayouts() {
          true},
     };
     return layouts;
+}
+
+/// Whether the module that fixes a layout finds every field where it looks.
+bool keepsLayout(Import::E_SupportedImportFormats format, const PreparedFile& prepared) {
+    for (const FixedLayout& layout : fixedLayouts()) {
+        if (layout.format != format)
+            continue;
+        if (layout.header && *layout.header != prepared.header)
+            return false;
+        return std::all_of(prepared.columns.begin(), prepared.columns.end(), [&](const PreparedFile::Assignment& pair) {
+            return layout.columns.at(pair.field) == pair.column;
+        });
+    }
+    return true;
 }
 
 /// What reading the bytes as text could not keep.
@@ -83,9 +98,11 @@ void readDelimited(const PhysicalLines& physical, const InspectionOptions& optio
             result.columns = StarMoneyLayout::columns();
             return;
         }
-        result.format = Import::eFormatCSV; // another layout, which the header tells
+        result.format = Import::eFormatCSV; // another layout, which the header tells, or one with damaged lines
     }
     result.prepared = DelimitedPreparation::prepare(file, physical, options);
+    if (!keepsLayout(result.format, result.prepared))
+        result.format = Import::eFormatCSV;
     std::vector<IntakeMessage> remarks = plan.remarks;
     for (const TablePlan& table : plan.tables) {
         if (table.balance != BalanceProof::none && result.balance != BalanceProof::broken)
@@ -138,7 +155,8 @@ IntakeResult read(std::string_view bytes, Import::E_SupportedImportFormats forma
     if (format == Import::eFormatQIF) {
         readQif(physical, options, result);
     } else {
-        InspectionOptions narrowed = options;
+        const bool isStarMoney = format == Import::eFormatStarMoney && StarMoneyLayout::isIn(physical.lines);
+        InspectionOptions narrowed = isStarMoney ? StarMoneyLayout::narrowed(options) : options;
         for (const FixedLayout& layout : fixedLayouts()) {
             if (layout.format != format)
                 continue;
@@ -151,6 +169,29 @@ IntakeResult read(std::string_view bytes, Import::E_SupportedImportFormats forma
     }
     addMessages(aboutText(text), result.prepared.messages);
     result.prepared.untouched = !result.undecided && result.prepared.text == bytes;
+    return result;
+}
+
+IntakeResult readAsItStands(std::string_view bytes, const InspectionOptions& options) {
+    IntakeResult result;
+    const HostFileText text = HostTextReader::read(bytes, options.encoding);
+    result.encoding = text.encoding;
+    result.bom = text.bom;
+    const PhysicalLines physical = LineSplitting::split(text.text);
+    result.lineEnds = physical.ends;
+    const DelimitedFile file = DelimitedInspector::inspect(physical.lines, options);
+    result.delimiter = file.plan.delimiter;
+    result.header = options.header.value_or(file.plan.hasHeader() && file.plan.preambleLines(file.table) == 0);
+
+    PreparedLines lines(physical);
+    for (int line = 0; line < lines.count(); ++line)
+        lines.keep(line);
+    result.prepared.text = lines.text();
+    result.prepared.untouched = result.prepared.text == bytes;
+    result.prepared.header = result.header;
+    result.prepared.delimiter = result.delimiter;
+    for (const std::string_view line : physical.lines)
+        result.prepared.lines.push_back(TextTools::trim(line).empty() ? LineUse::blank : LineUse::ignored);
     return result;
 }
 

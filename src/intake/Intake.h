@@ -49,4 +49,9 @@ Import::E_SupportedImportFormats formatByContent(std::string_view bytes);
 /// decided is in the result.
 IntakeResult read(std::string_view bytes, Import::E_SupportedImportFormats format, const InspectionOptions& options);
 
+/// A delimited list whose lines are all kept, in the host's encoding and with
+/// line feeds; nothing is assigned to its columns. It has a header where its
+/// first line with content is one.
+IntakeResult readAsItStands(std::string_view bytes, const InspectionOptions& options);
+
 } // namespace Intake

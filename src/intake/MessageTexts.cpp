@@ -12,6 +12,12 @@ constexpr std::array<Text, static_cast<std::size_t>(MessageId::count)> kTexts = 
     {MessageId::noTable, "no-bookings", false,
      "In der Datei wurde keine Tabelle mit Datum und Betrag gefunden. Falls sie eine enthält, bitte mit --columns "
      "angeben, welche Spalte das Datum und welche der Betrag ist, zum Beispiel --columns \"0=Datum,3=Betrag\"."},
+    {MessageId::columnsEmpty, "no-bookings", false,
+     "In den Spalten, die --columns nennt, stehen in keiner Zeile ein Datum und ein Betrag (Trennzeichen „%1“). Bitte "
+     "--columns und --delimiter prüfen; „dmimport preview --unassigned“ zeigt die Spalten mit ihren Nummern."},
+    {MessageId::columnOutside, "column-outside", false,
+     "Die Spalte %1 für „%2“ gibt es in keiner Zeile (Trennzeichen „%3“). Bitte --columns und --delimiter prüfen; "
+     "„dmimport preview --unassigned“ zeigt die Spalten mit ihren Nummern."},
     {MessageId::noQifRecords, "no-bookings", false,
      "In der Datei wurden keine Buchungen gefunden: Es gibt keinen Abschnitt (wie „!Type:Bank“) mit Datensätzen."},
     {MessageId::decimalMarkAmbiguous, "decimal-mark-ambiguous", false,

@@ -14,6 +14,8 @@
 enum class MessageId {
     // Nothing of the file is imported.
     noTable,
+    columnsEmpty,
+    columnOutside,
     noQifRecords,
     decimalMarkAmbiguous,
     dateOrderAmbiguous,

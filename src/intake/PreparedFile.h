@@ -9,7 +9,7 @@
 
 /// What became of a line of the file.
 enum class LineUse {
-    record, ///< the first line of a record that was handed over or refused
+    record, ///< of a record that was handed over or refused; in a delimited file its first line alone
     header,
     preamble,
     footer,

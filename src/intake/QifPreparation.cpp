@@ -104,7 +104,10 @@ private:
     void handle(const QifFile::Record& record) {
         if (!isWanted(m_qif.kindOf(record)))
             return;
-        use(record.firstLine) = LineUse::record;
+        for (int line = record.firstLine; line < record.firstLine + record.lineCount; ++line) {
+            if (use(line) != LineUse::blank)
+                use(line) = LineUse::record;
+        }
         const QifFields fields(m_physical, record);
         if (!check(record, fields))
             return;

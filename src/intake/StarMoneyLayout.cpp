@@ -2,6 +2,10 @@
 // SPDX-License-Identifier: MIT
 #include "intake/StarMoneyLayout.h"
 
+#include <cstddef>
+#include <utility>
+
+#include "intake/Dates.h"
 #include "intake/LibraryReading.h"
 #include "intake/TextTools.h"
 
@@ -12,18 +16,52 @@ constexpr int kDate = 0;
 constexpr int kAmount = 2;
 constexpr int kFirstPurpose = 4;
 constexpr int kLastPurpose = 17;
+constexpr char kDelimiter = '|';
 
 } // namespace
 
 namespace StarMoneyLayout {
 
+bool isIn(std::span<const std::string_view> lines) {
+    const RecordTable table = RecordTable::read(lines, kDelimiter, lines.size());
+    bool header = true;
+    std::size_t sound = 0;
+    std::size_t others = 0;
+    for (std::size_t i = 0; i < table.size(); ++i) {
+        const auto& record = table.record(i);
+        if (record.blank && record.cellCount == 1)
+            continue;
+        const bool dated = DateCells::read(table.cell(i, kDate)).has_value();
+        if (std::exchange(header, false)) {
+            if (record.cellCount != kColumns || dated)
+                return false;
+            continue;
+        }
+        ++(record.cellCount == kColumns && dated ? sound : others);
+    }
+    return sound > others;
+}
+
+InspectionOptions narrowed(const InspectionOptions& options) {
+    InspectionOptions fixed = options;
+    fixed.delimiter = kDelimiter;
+    fixed.header = true;
+    fixed.columns.emplace();
+    for (const auto& [field, inputs] : columns())
+        (*fixed.columns)[field] = inputs.front();
+    fixed.furtherPurpose.clear();
+    for (int column = kFirstPurpose + 1; column <= kLastPurpose; ++column)
+        fixed.furtherPurpose.push_back(column);
+    return fixed;
+}
+
 bool isReadRight(const DelimitedFile& file) {
     const RecordTable& table = file.table;
-    if (file.plan.tables.size() != 1 || file.plan.delimiter != '|')
+    if (file.plan.tables.size() != 1 || file.plan.delimiter != kDelimiter)
         return false;
     const TablePlan& plan = file.plan.tables.front();
     if (plan.region.header != std::size_t{0} || plan.sign != SignRule::asWritten || plan.roles.date != kDate ||
-        plan.roles.amount != kAmount || TextTools::fold(table.cell(0, kFirstPurpose)) != "vwz1")
+        plan.roles.amount != kAmount)
         return false;
     const auto fits = [&](std::size_t i) {
         const auto& record = table.record(i);
@@ -46,7 +84,7 @@ bool isReadRight(const DelimitedFile& file) {
 }
 
 void prepareFixed(const PhysicalLines& physical, PreparedFile& prepared) {
-    prepared.delimiter = '|';
+    prepared.delimiter = kDelimiter;
     bool header = true;
     for (std::size_t i = 0; i < physical.lines.size(); ++i) {
         const bool blank = TextTools::trim(physical.lines[i]).empty();

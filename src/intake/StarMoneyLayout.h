@@ -3,10 +3,13 @@
 #pragma once
 
 #include <map>
+#include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "intake/DelimitedInspector.h"
+#include "intake/InspectionOptions.h"
 #include "intake/PhysicalLines.h"
 #include "intake/PreparedFile.h"
 
@@ -14,8 +17,13 @@
 /// Exports of other layouts name their columns and are read like any list.
 namespace StarMoneyLayout {
 
-/// Whether every line that is not empty has the 21 fields under the names that
-/// go with them, and the library reads every date and amount as `file`'s plan does.
+/// Whether the lines below a header have those columns, as far as they are sound.
+bool isIn(std::span<const std::string_view> lines);
+/// What that layout fixes.
+InspectionOptions narrowed(const InspectionOptions& options);
+
+/// Whether every line that is not empty has the 21 fields, and the library
+/// reads every date and amount as `file`'s plan does.
 bool isReadRight(const DelimitedFile& file);
 
 /// Hands the lines over as they are, with line feeds.

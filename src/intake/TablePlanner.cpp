@@ -28,7 +28,8 @@ constexpr double kUnreadableRecords = 0.5; // times their share
 constexpr double kCertified = 0.95;
 
 /// What the user said about columns overrules what their names say.
-void applyColumns(ColumnRoles& roles, const std::map<std::string, int>& columns) {
+void applyColumns(ColumnRoles& roles, const InspectionOptions& options) {
+    const std::map<std::string, int>& columns = *options.columns;
     const auto column = [&](const char* field) {
         const auto at = columns.find(field);
         return at == columns.end() ? -1 : at->second;
@@ -42,6 +43,7 @@ void applyColumns(ColumnRoles& roles, const std::map<std::string, int>& columns)
     fixed.counterparty = column("Empfaenger");
     if (const int purpose = column("Verwendungszweck"); purpose >= 0)
         fixed.purpose = {purpose};
+    fixed.purpose.insert(fixed.purpose.end(), options.furtherPurpose.begin(), options.furtherPurpose.end());
     fixed.postingText = column("Buchungstext");
     fixed.category = column("Kategorie");
     fixed.subcategory = column("Unterkategorie");
@@ -62,7 +64,7 @@ void TablePlanner::add(const TableRegion& region) {
     ColumnChoice choice = ColumnChooser::choose(m_table, region, m_lexicon);
     plan.roles = choice.roles;
     if (m_options.columns)
-        applyColumns(plan.roles, *m_options.columns);
+        applyColumns(plan.roles, m_options);
     if (!plan.roles.complete())
         return;
     tellColumns(plan, choice);

@@ -38,7 +38,7 @@ TEST_F(FileNameTest, AnyNameIsReadAndKept) {
         const Json file = import({name.name, "--columns", "0=Datum,2=Betrag", "--delimiter", ";"}, 0);
         EXPECT_EQ(file.at("importedCount"), 1);
         EXPECT_EQ(show("sessions").back().at("ImportFileName"), name.stored);
-        EXPECT_EQ(preview({name.name}).at("rowCount"), 1);
+        EXPECT_EQ(preview({name.name, "--unassigned"}).at("rowCount"), 1);
         EXPECT_EQ(leftovers(), std::vector<std::string>());
     }
 }
@@ -57,24 +57,25 @@ TEST_F(FileNameTest, AbsolutePathIsKeptAsGiven) {
 }
 
 TEST_F(FileNameTest, NameThatIsNoUtf8IsShownAndWrittenSafely) {
-    const Result result = run({"import", "fehlt\xFF\033[1m.csv", "--store", kStore, "--columns", "0=Datum"});
+    const Result result = run({"import", "fehlt\xFF\033[1m.csv", "--store", kStore, "--columns", "0=Datum,1=Betrag"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.messages, Says("fehlt\\xff␛[1m.csv: Fehler: "));
-    const Result json = run({"import", "fehlt\xFF\033[1m.csv", "--store", kStore, "--columns", "0=Datum", "--json"});
+    const Result json =
+        run({"import", "fehlt\xFF\033[1m.csv", "--store", kStore, "--columns", "0=Datum,1=Betrag", "--json"});
     EXPECT_EQ(Json::parse(json.output).at("files").at(0).at("file"), "fehlt\uFFFD\033[1m.csv");
 }
 
 TEST_F(FileNameTest, FolderForTemporaryFilesMayHaveAnyName) {
     std::filesystem::create_directory(path("tmp€"));
     write("a€.csv", "01.02.2004;A;1\n");
-    ChildProgram program = this->program({"preview", "a€.csv"});
+    ChildProgram program = this->program({"preview", "a€.csv", "--unassigned"});
     program.environment["TMPDIR"] = path("tmp€");
     EXPECT_EQ(program.run().status, 0);
 }
 
 TEST_F(FileNameTest, WordsBehindTwoDashesAreFiles) {
     write("--json", "01.02.2004;A;1\n");
-    const Result result = run({"preview", "--quiet", "--", "--json"});
+    const Result result = run({"preview", "--quiet", "--unassigned", "--", "--json"});
     EXPECT_EQ(result.status, 0) << result.messages;
     EXPECT_EQ(result.output, "0           1  2\n01.02.2004  A  1\n");
 }

@@ -20,8 +20,11 @@ TEST_F(FixedLayoutTest, TaxDataNeedsNoColumns) {
 
 TEST_F(FixedLayoutTest, HeaderOptionHoldsForTaxData) {
     write("steuer.sdi", "Zweck;Betrag;Datum;Wer;Kategorie;Unter;Text\nMiete;-650,00;01.03.2004;V;W;M;D\n");
-    EXPECT_EQ(import({"steuer.sdi", "--header"}, 0).at("importedCount"), 1);
-    EXPECT_EQ(messages(import({"steuer.sdi"}, 1)), "bad-date:1");
+    EXPECT_EQ(import({"steuer.sdi", "--verbatim", "--header"}, 0).at("importedCount"), 1);
+    EXPECT_EQ(messages(import({"steuer.sdi", "--verbatim"}, 1)), "bad-date:1");
+    const Json file = import({"steuer.sdi"}, 0);
+    EXPECT_EQ(file.at("importedCount"), 1) << "without the option it is found";
+    EXPECT_EQ(file.at("format"), 3);
 }
 
 TEST_F(FixedLayoutTest, ZasterhofExportAlwaysHasAHeader) {
@@ -75,12 +78,13 @@ TEST_F(FixedLayoutTest, StarMoneyLineThatIsRefusedEndsTheFile) {
     std::string goodLine = good;
     write("sm.ssx", header + goodLine);
     const Json file = import({"sm.ssx"}, 0);
+    EXPECT_EQ(file.at("format"), 0);
     EXPECT_EQ(file.at("importedCount"), 1) << file;
     EXPECT_EQ(file.at("lines").at("header"), 1);
 
     write("schlecht.ssx", header + good + bad + good);
     const Json before = dump();
-    const Json failed = import({"schlecht.ssx"}, 1);
+    const Json failed = import({"schlecht.ssx", "--verbatim"}, 1);
     EXPECT_EQ(failed.at("result"), 0);
     EXPECT_EQ(failed.at("committed"), false);
     EXPECT_EQ(messages(failed), "bad-date:3");
@@ -88,10 +92,16 @@ TEST_F(FixedLayoutTest, StarMoneyLineThatIsRefusedEndsTheFile) {
               Json::parse(R"({"read":4,"records":2,"header":1,"preamble":0,"footer":0,"blank":0,"ignored":1})"));
     EXPECT_EQ(dump(), before);
 
-    const Json kept = import({"schlecht.ssx", "--keep-partial"}, 1);
+    const Json kept = import({"schlecht.ssx", "--verbatim", "--keep-partial"}, 1);
     EXPECT_EQ(kept.at("committed"), true);
     EXPECT_EQ(kept.at("importedCount"), 1);
     EXPECT_EQ(show().size(), 2U);
+
+    const Json prepared = import({"schlecht.ssx"}, 1);
+    EXPECT_EQ(prepared.at("importedCount"), 2) << "the intake takes the one line out";
+    EXPECT_EQ(prepared.at("refusedCount"), 1);
+    EXPECT_EQ(messages(prepared), "bad-date:3");
+    EXPECT_EQ(show().back().at("Unterkategorie"), "Miete");
 }
 
 } // namespace

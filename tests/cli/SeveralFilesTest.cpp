@@ -12,7 +12,7 @@ protected:
         write("c.csv", "04.02.2004;D;4\n");
     }
     Result importAll() const {
-        return run({"import", "a.csv", "b.csv", "c.csv", "fehlt.csv", "--store", kStore, "--columns",
+        return run({"import", "a.csv", "b.csv", "c.csv", "fehlt.csv", "--store", kStore, "--verbatim", "--columns",
                     "0=Datum,1=Empfaenger,2=Betrag", "--delimiter", ";", "--json"});
     }
 };
@@ -44,7 +44,7 @@ TEST_F(SeveralFilesTest, StoreThatCannotBeUsedStopsEverything) {
 }
 
 TEST_F(SeveralFilesTest, EachFileHasItsSummary) {
-    const Result result = run({"import", "a.csv", "b.csv", "c.csv", "--store", kStore, "--columns",
+    const Result result = run({"import", "a.csv", "b.csv", "c.csv", "--store", kStore, "--verbatim", "--columns",
                                "0=Datum,1=Empfaenger,2=Betrag", "--delimiter", ";"});
     EXPECT_EQ(result.output, "a.csv: 2 Datensätze importiert (Sitzung 1).\n"
                              "b.csv: nicht übernommen; der Bestand ist unverändert.\n"
@@ -54,7 +54,7 @@ TEST_F(SeveralFilesTest, EachFileHasItsSummary) {
 TEST_F(SeveralFilesTest, DateOrderIsLearnedAfreshForEachFile) {
     write("us.csv", "12/31/2004;A;1\n");
     write("de.csv", "31.12.2004;A;1\n");
-    const Result result = run({"import", "us.csv", "de.csv", "us.csv", "--store", kStore, "--columns",
+    const Result result = run({"import", "us.csv", "de.csv", "us.csv", "--store", kStore, "--verbatim", "--columns",
                                "0=Datum,1=Empfaenger,2=Betrag", "--delimiter", ";"});
     EXPECT_EQ(result.status, 0) << result.messages;
     for (const Json& row : show())

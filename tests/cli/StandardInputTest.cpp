@@ -27,7 +27,7 @@ TEST_F(StandardInputTest, DashReadsIt) {
 }
 
 TEST_F(StandardInputTest, ItIsAPlainListUnlessSaidOtherwise) {
-    ChildProgram program = this->program({"preview", "-", "--json"});
+    ChildProgram program = this->program({"preview", "-", "--unassigned", "--json"});
     program.input = kRows;
     EXPECT_EQ(Json::parse(program.run().output).at("rowCount"), 2);
     program = this->program({"preview", "-", "--format", "tax", "--json"});
@@ -42,7 +42,7 @@ TEST_F(StandardInputTest, NothingOnItIsAnEmptyFile) {
 }
 
 TEST_F(StandardInputTest, ItIsReadOnceOnly) {
-    const Result result = run({"import", "-", "-", "--store", kStore, "--columns", "0=Datum"});
+    const Result result = run({"import", "-", "-", "--store", kStore, "--columns", "0=Datum,2=Betrag"});
     EXPECT_EQ(result.status, 2);
     EXPECT_THAT(result.messages, Says("zweimal"));
 }

@@ -95,7 +95,7 @@ TEST_F(TerminalTest, ManyColumnsOfAPreviewAreCutOff) {
     for (int column = 0; column < 49; ++column)
         row += (column == 0 ? "" : ";") + std::string("wert") + std::to_string(column);
     write("breit.csv", row + "\n");
-    ChildProgram program = this->program({"preview", "breit.csv"});
+    ChildProgram program = this->program({"preview", "breit.csv", "--unassigned"});
     program.terminalColumns = 80;
     for (const std::string& line : lines(program.run().output))
         EXPECT_LE(TextWidth::of(line), 80U) << line;

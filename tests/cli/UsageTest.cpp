@@ -35,6 +35,12 @@ const UsageCase kWrong[] = {
     {{"preview", "a.csv", "--delimiter", ";;"}, "schreiben Sie etwa --delimiter \";\""},
     {{"preview", "a.csv", "--delimiter", "\""}, "trennen keine Spalten"},
     {{"preview", "a.csv", "--delimiter", "中"}, "ist nicht genau ein Zeichen"},
+    {{"preview", "a.csv", "--encoding", "cp1253"}, "Meinten Sie „cp1252“?"},
+    {{"preview", "a.csv", "--encoding", "latin1", "--verbatim"}, "--encoding und --verbatim schließen einander aus"},
+    {{"preview", "a.csv", "--date-order", "dym"}, "schreiben Sie dmy (31.12.2004), mdy (12/31/2004) oder ymd"},
+    {{"preview", "a.csv", "--date-order", "dmy", "--verbatim"}, "--date-order und --verbatim schließen einander aus"},
+    {{"preview", "a.csv", "--decimal", ";"}, "schreiben Sie --decimal , oder --decimal ."},
+    {{"preview", "a.csv", "--decimal", ",", "--verbatim"}, "--decimal und --verbatim schließen einander aus"},
     {{"preview", "a.csv", "--format", "cvs"}, "Meinten Sie „csv“?"},
     {{"preview", "a.csv", "--format", "doc"}, "Formate: star-money, csv, qif, tax, zasterhof"},
     {{"preview", "a.csv", "--limit", "viele"}, "schreiben Sie etwa --limit 20"},
@@ -45,7 +51,9 @@ const UsageCase kWrong[] = {
     {{"preview", "a.csv", "--color", "bunt"}, "schreiben Sie auto, always oder never"},
     {{"preview", "a.csv", "--store", "x"}, "kennt die Option „--store“ nicht"},
     {{"import", "--store", "x"}, "Es fehlt: DATEI."},
-    {{"import", "a.csv", "--store", "", "--columns", "0=Datum"}, "--store: Der Name fehlt"},
+    {{"import", "a.csv", "--store", ""}, "--store: Der Name fehlt"},
+    {{"import", "a.csv", "--columns", "0=Datum,1=Empfaenger"}, "Die Spalte für „Betrag“ fehlt"},
+    {{"import", "a.csv", "--columns", "1=Betrag"}, "Die Spalte für „Datum“ fehlt"},
     {{"show", "a.csv"}, "„a.csv“ lässt sich nicht zeigen."},
     {{"show", "booking"}, "Meinten Sie „bookings“?"},
     {{"show", "data-sets", "sessions"}, "„sessions“ ist zu viel."},
@@ -96,12 +104,12 @@ TEST_F(UsageTest, VersionIsTheProjects) {
 
 TEST_F(UsageTest, LastOfTwoEqualOptionsCounts) {
     write("a.csv", "1;2\n3;4\n");
-    EXPECT_EQ(preview({"a.csv", "--limit", "2", "--limit", "1"}).at("rows").size(), 1U);
+    EXPECT_EQ(preview({"a.csv", "--unassigned", "--limit", "2", "--limit", "1"}).at("rows").size(), 1U);
 }
 
 TEST_F(UsageTest, ValueMayStandBehindAnEqualsSign) {
     write("a.csv", "1;2\n3;4\n");
-    EXPECT_EQ(preview({"a.csv", "--limit=1", "--delimiter=;"}).at("rows").size(), 1U);
+    EXPECT_EQ(preview({"a.csv", "--unassigned", "--limit=1", "--delimiter=;"}).at("rows").size(), 1U);
 }
 
 } // namespace

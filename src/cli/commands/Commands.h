@@ -5,6 +5,7 @@
 #include "cli/Command.h"
 
 extern const Command kFormatsCommand;
+extern const Command kInspectCommand;
 extern const Command kPreviewCommand;
 extern const Command kImportCommand;
 extern const Command kAccountsCommand;

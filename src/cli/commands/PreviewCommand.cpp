@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include <algorithm>
 
-#include "cli/ColumnOption.h"
 #include "cli/commands/Commands.h"
 #include "cli/Console.h"
 #include "cli/FileReading.h"
@@ -12,20 +11,9 @@
 
 namespace {
 
-const char* const kOptions[] = {"--columns",   "--unassigned", "--delimiter", "--header",
-                                "--no-header", "--format",     "--verbatim",  "--limit"};
-
-/// Columns that were assigned and that no line has.
-void addMissingColumns(std::vector<Message>& messages, const FileReading& reading, const ImportRecordSet& preview) {
-    if (reading.isVerbatim() || !reading.traits().takesColumns() || reading.columns() == nullptr ||
-        preview.getRowCount() == 0)
-        return;
-    const ColumnAssignment& columns = *reading.columns();
-    for (int i = 0; i < columns.m_count; ++i) {
-        if (columns.m_pairs[i].m_inputColumn >= preview.getColumnCount())
-            messages.push_back(reading.columnOutside(columns.m_pairs[i]));
-    }
-}
+const char* const kOptions[] = {"--columns",   "--unassigned", "--delimiter",  "--header",
+                                "--no-header", "--encoding",   "--date-order", "--decimal",
+                                "--format",    "--verbatim",   "--limit"};
 
 ExitStatus run(const Options& options, Console& console) {
     const std::size_t limit = rowLimit(options.limit);
@@ -35,9 +23,7 @@ ExitStatus run(const Options& options, Console& console) {
     RunOutcome outcome;
     if (reading.mayBeAsked())
         outcome = reading.simulate(run);
-    if (outcome.result != 0)
-        addMissingColumns(messages, reading, run.preview());
-    else if (!reading.isUnreadable())
+    if (outcome.result == 0 && !reading.isUnreadable() && reading.mayBeAsked())
         messages.push_back(LibraryFailure::message(reading, outcome));
 
     if (console.json())
@@ -45,8 +31,8 @@ ExitStatus run(const Options& options, Console& console) {
     else if (outcome.result != 0)
         PreviewText::writeTable(console, reading, run, limit);
     console.report(reading.argument(), messages);
-    const bool clean = std::none_of(messages.begin(), messages.end(),
-                                    [](const Message& message) { return message.texts().severity == Severity::error; });
+    const bool clean =
+        std::none_of(messages.begin(), messages.end(), [](const Message& message) { return message.isError(); });
     return clean ? ExitStatus::done : ExitStatus::refused;
 }
 
