@@ -8,6 +8,7 @@
 #include "intake/BalanceChain.h"
 #include "intake/Dates.h"
 #include "intake/Money.h"
+#include "intake/SignWords.h"
 #include "intake/TextTools.h"
 
 namespace {
@@ -28,11 +29,18 @@ struct Column {
     }
 };
 
+/// Marks for debit and credit in a column of their own, one element a booking.
+struct SignMarks {
+    int index;
+    std::vector<AmountCell::Sign> signs;
+};
+
 struct Solution {
     int amount = -1;
     int debit = -1;
     int credit = -1;
     int balance = -1;
+    int sign = -1;
     std::vector<Money> amounts;
 };
 
@@ -53,6 +61,11 @@ public:
                 column.values.push_back(valueOf(TextTools::trim(table.cell(booking, c))));
             m_columns.push_back(std::move(column));
         }
+        for (int c = 0; c < static_cast<int>(choice.profiles.size()); ++c) {
+            const ColumnProfile& profile = choice.profiles[static_cast<std::size_t>(c)];
+            if (profile.minusWords > 0 && profile.plusWords > 0 && profile.isSignColumn())
+                collectMarks(table, bookings, c);
+        }
     }
 
     std::vector<Solution> solutions() {
@@ -60,6 +73,14 @@ public:
             for (const Column& amount : m_columns)
                 trySingle(amount, balance, false);
         });
+        if (m_found.empty()) {
+            forEachBalance([&](const Column& balance) {
+                for (const Column& amount : m_columns) {
+                    for (const SignMarks& marks : m_marks)
+                        tryMarked(amount, marks, balance);
+                }
+            });
+        }
         if (m_found.empty()) {
             forEachBalance([&](const Column& balance) {
                 for (const Column& debit : m_columns) {
@@ -81,6 +102,17 @@ private:
     std::optional<Money> valueOf(std::string_view text) const {
         const auto amount = text.empty() ? std::nullopt : AmountCells::read(text, m_plan.decimalMark);
         return amount ? std::optional(amount->value()) : std::nullopt;
+    }
+
+    void collectMarks(const RecordTable& table, const std::vector<std::size_t>& bookings, int column) {
+        SignMarks marks{column, {}};
+        for (const std::size_t booking : bookings) {
+            const auto sign = SignWords::read(table.cell(booking, column));
+            if (!sign)
+                return;
+            marks.signs.push_back(*sign);
+        }
+        m_marks.push_back(std::move(marks));
     }
 
     template <typename Action>
@@ -112,7 +144,22 @@ private:
         const bool fits = sizesOnly ? chain.steps >= kStepsOfSizes && chain.fittingSizes == chain.steps
                                     : chain.steps >= kStepsOfAmount && chain.holds();
         if (fits && moves(amounts))
-            m_found.push_back({amount.index, -1, -1, balance.index, std::move(amounts)});
+            m_found.push_back({amount.index, -1, -1, balance.index, -1, std::move(amounts)});
+    }
+
+    void tryMarked(const Column& amount, const SignMarks& marks, const Column& balance) {
+        if (amount.index == balance.index || !amount.isFull())
+            return;
+        std::vector<Money> amounts;
+        for (std::size_t i = 0; i < amount.values.size(); ++i) {
+            if (amount.values[i]->isNegative())
+                return;
+            amounts.push_back(marks.signs[i] == AmountCell::Sign::minus ? amount.values[i]->negated()
+                                                                        : *amount.values[i]);
+        }
+        const BalanceChain chain = chainOf(amounts, balance);
+        if (chain.steps >= kStepsOfAmount && chain.holds() && moves(amounts))
+            m_found.push_back({amount.index, -1, -1, balance.index, marks.index, std::move(amounts)});
     }
 
     void tryPair(const Column& debit, const Column& credit, const Column& balance) {
@@ -128,11 +175,12 @@ private:
         }
         const BalanceChain chain = chainOf(amounts, balance);
         if (chain.steps >= kStepsOfPair && chain.holds() && moves(amounts))
-            m_found.push_back({-1, debit.index, credit.index, balance.index, std::move(amounts)});
+            m_found.push_back({-1, debit.index, credit.index, balance.index, -1, std::move(amounts)});
     }
 
     const TablePlan& m_plan;
     std::vector<Column> m_columns;
+    std::vector<SignMarks> m_marks;
     std::vector<Solution> m_found;
 };
 
@@ -152,6 +200,8 @@ bool settle(const RecordTable& table, const ColumnChoice& choice, TablePlan& pla
     plan.roles.debit = found.front().debit;
     plan.roles.credit = found.front().credit;
     plan.roles.balance = found.front().balance;
+    if (found.front().sign >= 0)
+        plan.roles.sign = found.front().sign;
     return true;
 }
 

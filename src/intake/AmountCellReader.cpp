@@ -13,10 +13,11 @@ constexpr int kMaxDigits = 17;
 
 // Currencies that stand beside amounts; a word that is none of these makes the
 // cell a text.
-constexpr std::array<std::string_view, 36> kCurrencies = {
-    "EUR",  "Euro", "EURO", "\x80", "USD", "US$", "CA$", "A$",  "$",   "GBP", "\xA3", "CHF",
-    "SFr.", "Fr.",  "JPY",  "\xA5", "DEM", "DM",  "ATS", "SEK", "NOK", "DKK", "PLN",  "CZK",
-    "HUF",  "TRY",  "AUD",  "CAD",  "NZD", "INR", "BRL", "ZAR", "HKD", "SGD", "CNY",  "kr",
+constexpr std::array<std::string_view, 54> kCurrencies = {
+    "EUR", "Euro", "EURO", "\x80", "USD", "US$", "CA$", "A$",  "$",   "GBP", "\xA3", "CHF", "SFr.", "Fr.",
+    "JPY", "\xA5", "DEM",  "DM",   "ATS", "SEK", "NOK", "DKK", "PLN", "CZK", "HUF",  "TRY", "AUD",  "CAD",
+    "NZD", "INR",  "BRL",  "ZAR",  "HKD", "SGD", "CNY", "kr",  "Kr",  "RON", "BGN",  "ISK", "RSD",  "MXN",
+    "ILS", "THB",  "KRW",  "AED",  "TND", "UAH", "zl",  "Kc",  "Ft",  "lei", "R$",   "kr.",
 };
 
 struct SignWord {
@@ -40,11 +41,7 @@ public:
     Peeler(std::string_view text, AmountCell& out) : m_text(TextTools::trim(text)), m_out(out) {}
 
     std::optional<std::string_view> number() {
-        if (m_text.size() >= 2 && m_text.front() == '(' && m_text.back() == ')') {
-            m_text = TextTools::trim(m_text.substr(1, m_text.size() - 2));
-            setSign(AmountCell::Sign::minus);
-        }
-        while (!m_text.empty() && !isBare() && (peelSign() || peelCurrency() || peelSignWord()))
+        while (!m_text.empty() && !isBare() && (peelBrackets() || peelSign() || peelCurrency() || peelSignWord()))
             m_text = TextTools::trim(m_text);
         return m_consistent ? std::optional(m_text) : std::nullopt;
     }
@@ -56,6 +53,14 @@ private:
     void setSign(AmountCell::Sign sign) {
         m_consistent = m_consistent && m_out.sign == AmountCell::Sign::none;
         m_out.sign = sign;
+    }
+
+    bool peelBrackets() {
+        if (m_text.size() < 2 || m_text.front() != '(' || m_text.back() != ')')
+            return false;
+        m_text = m_text.substr(1, m_text.size() - 2);
+        setSign(AmountCell::Sign::minus);
+        return true;
     }
 
     static AmountCell::Sign signOf(char c) {

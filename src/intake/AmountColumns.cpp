@@ -56,7 +56,17 @@ private:
             m_roles.debit = m_survey.take(debit);
             m_roles.credit = credit == debit ? -1 : m_survey.take(credit);
         }
+        if (m_roles.amount < 0 && !m_roles.twoAmounts())
+            m_roles.amount = m_survey.take(namedButDamaged());
         m_choice.amountByName = m_roles.amount >= 0 || m_roles.twoAmounts();
+    }
+
+    /// A column that is surely called the amount, and where few are: what is no
+    /// amount in it is refused, rather than taken from elsewhere.
+    int namedButDamaged() const {
+        return m_survey.best(
+            kSureName - 1, [&](int c) { return m_survey.wanted(c, Role::amount); },
+            [&](int c) { return profile(c).amounts() > 0 && !profile(c).isDate(); });
     }
 
     void chooseByValues() {

@@ -82,8 +82,8 @@ private:
 
     std::optional<Money> readMoney(std::string_view text) const {
         const auto amount = text.empty() ? std::nullopt : AmountCells::read(text, m_plan.decimalMark);
-        // "1.234" in a column of "1.5": a thousand, or a slip. Nobody counts in thousandths.
-        if (!amount || (amount->thousand && !m_plan.markByUser))
+        // "1.234" in a column of "1.5": a thousand, or a slip. Hardly anybody counts in thousandths.
+        if (!amount || (amount->thousand && !m_plan.markByUser && !m_plan.thousandths))
             return std::nullopt;
         return amount->value();
     }
@@ -101,7 +101,7 @@ private:
             if (debit && (!credit || credit->isZero()) && readableOrEmpty(m_roles.credit, credit))
                 reading.value = m_plan.debitIsNegative ? *debit : debit->negated();
             else if (credit && (!debit || debit->isZero()) && readableOrEmpty(m_roles.debit, debit))
-                reading.value = *credit;
+                reading.value = m_plan.creditIsNegative ? credit->negated() : *credit;
             return reading;
         }
         reading.value = read(m_roles.amount);
@@ -195,6 +195,39 @@ private:
     std::size_t m_record = 0;
 };
 
+/// Whether any field holds more than numbers, codes and a currency.
+bool hasWords(const RecordTable& table, std::size_t record) {
+    constexpr std::ptrdiff_t kLettersOfAWord = 4;
+    const auto cells = table.cells(record);
+    return std::any_of(cells.begin(), cells.end(), [](std::string_view cell) {
+        return std::count_if(cell.begin(), cell.end(), TextTools::isAsciiLetter) >= kLettersOfAWord &&
+               !DateCells::read(cell);
+    });
+}
+
+/// Without a header nothing names a closing balance: a last (or first) line that is
+/// about nothing, where every other one is about something.
+void findNamelessBalance(const RecordTable& table, const TablePlan& plan, std::vector<BookingRow>& rows) {
+    constexpr std::size_t kBookingsThatTell = 3;
+    std::vector<std::size_t> bookings;
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        if (rows[i].kind == BookingRow::Kind::booking)
+            bookings.push_back(i);
+    }
+    if (bookings.size() <= kBookingsThatTell)
+        return;
+    std::optional<std::size_t> wordless;
+    for (const std::size_t i : bookings) {
+        if (hasWords(table, plan.region.begin + i))
+            continue;
+        if (wordless)
+            return;
+        wordless = i;
+    }
+    if (wordless && (*wordless == bookings.front() || *wordless == bookings.back()))
+        rows[*wordless].kind = BookingRow::Kind::balance;
+}
+
 } // namespace
 
 namespace BookingRows {
@@ -205,6 +238,8 @@ std::vector<BookingRow> read(const RecordTable& table, const TablePlan& plan) {
     RowReader reader(table, plan);
     for (std::size_t record = plan.region.begin; record < plan.region.end; ++record)
         rows.push_back(reader.read(record));
+    if (!plan.region.header)
+        findNamelessBalance(table, plan, rows);
     return rows;
 }
 

@@ -50,7 +50,8 @@ void count(ColumnProfile& profile, std::string_view raw) {
         const bool sure =
             amount->marked || amount->currency || amount->sign != AmountCell::Sign::none || (dot && dot->marked);
         profile.marked += sure ? 1 : 0;
-        profile.negative += amount->sign == AmountCell::Sign::minus ? 1 : 0;
+        profile.negative += amount->sign == AmountCell::Sign::minus && !amount->magnitude.isZero() ? 1 : 0;
+        profile.zeros += amount->magnitude.isZero() ? 1 : 0;
     }
     profile.wordsOnly += std::none_of(text.begin(), text.end(), TextTools::isDigit) ? 1 : 0;
     const auto mark = SignWords::read(text);

@@ -41,7 +41,7 @@ int mostFrequent(const std::vector<int>& numbers) {
     for (const int number : numbers)
         ++counts[number];
     const auto most = std::max_element(counts.begin(), counts.end(),
-                                       [](const auto& a, const auto& b) { return a.second <= b.second; });
+                                       [](const auto& a, const auto& b) { return a.second < b.second; });
     return most == counts.end() ? 0 : most->first;
 }
 

@@ -147,6 +147,10 @@ std::optional<DateCell> readNumbers(Scanner scan) {
         if (count == 2 && !isSeparator(separator))
             return std::nullopt;
     }
+    if (scan.peek() == '.' && cell.separator == '.') { // 2024.12.31.
+        scan.skip(1);
+        cell.plain = false;
+    }
     if (!scan.atEnd() && !TimeOfDay::isTimeOrNothing(scan.rest()))
         return std::nullopt;
     cell.time = !scan.atEnd();

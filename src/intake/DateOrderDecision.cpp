@@ -75,11 +75,13 @@ public:
 
     DateOrderDecision run() {
         const Candidates candidates = bestOrders(m_dates, m_window);
-        const std::vector<DateOrder>& orders = candidates.orders;
+        const std::vector<DateOrder> orders = withoutScattered(candidates.orders);
         if (orders.empty())
             return m_decision;
         const std::size_t first = m_dates.front().record;
         if (orders.size() == 1) {
+            if (candidates.orders.size() > 1)
+                return decided(orders.front(), first, "In dieser Reihenfolge liegen die Buchungen eng beieinander.");
             m_decision.proven = true;
             return decided(orders.front(), provingDate(orders.front()),
                            candidates.contradicted ? "In dieser Reihenfolge sind die meisten Daten gültig."
@@ -92,8 +94,7 @@ public:
             return decided(orders.front(), first, "Jede Reihenfolge ergibt dieselben Tage.");
         }
         const bool dayFirst = contains(orders, DateOrder::dayMonthYear);
-        if (dayFirst &&
-            std::all_of(m_dates.begin(), m_dates.end(), [](const Seen& d) { return d.cell.separator == '.'; }))
+        if (dayFirst && areAllWithPoints())
             return decided(DateOrder::dayMonthYear, first, "Mit Punkten geschriebene Daten nennen den Tag zuerst.");
         if (const auto other = fromOtherDates(orders))
             return *other;
@@ -118,6 +119,39 @@ private:
         m_decision.exampleLine = line(m_dates.front().record);
         m_decision.example = TextTools::trim(m_table.cell(m_dates.front().record, m_plan.roles.date));
         return m_decision;
+    }
+
+    /// Years of two digits could be days, and days years. Read so, bookings of a
+    /// few weeks scatter over decades.
+    std::vector<DateOrder> withoutScattered(const std::vector<DateOrder>& orders) const {
+        constexpr int kFewYears = 1500; // days
+        constexpr int kTimes = 4;
+        if (orders.size() < 2 || !contains(orders, DateOrder::yearMonthDay) ||
+            (contains(orders, DateOrder::dayMonthYear) && areAllWithPoints()))
+            return orders;
+        std::vector<int> spans;
+        for (const DateOrder order : orders)
+            spans.push_back(DateSequence(order, daysIn(order)).span());
+        const int least = *std::min_element(spans.begin(), spans.end());
+        std::vector<DateOrder> close;
+        for (std::size_t i = 0; i < orders.size(); ++i) {
+            if (spans[i] < kFewYears || spans[i] <= least * kTimes)
+                close.push_back(orders[i]);
+        }
+        return close;
+    }
+
+    bool areAllWithPoints() const {
+        return std::all_of(m_dates.begin(), m_dates.end(), [](const Seen& d) { return d.cell.separator == '.'; });
+    }
+
+    std::vector<Day> daysIn(DateOrder order) const {
+        std::vector<Day> days;
+        for (const Seen& date : m_dates) {
+            if (const auto day = dayOf(date.cell, order, m_window))
+                days.push_back(*day);
+        }
+        return days;
     }
 
     /// A date that only this order can read.
@@ -176,12 +210,7 @@ private:
     std::optional<DateOrderDecision> fromSequence(const std::vector<DateOrder>& orders) {
         std::vector<DateSequence> sequences;
         for (const DateOrder order : orders) {
-            std::vector<Day> days;
-            for (const Seen& date : m_dates) {
-                if (const auto day = dayOf(date.cell, order, m_window))
-                    days.push_back(*day);
-            }
-            sequences.emplace_back(order, std::move(days));
+            sequences.emplace_back(order, daysIn(order));
         }
         const auto winner = DateSequence::mostLikely(sequences, isVaried());
         if (!winner)

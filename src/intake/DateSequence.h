@@ -23,9 +23,11 @@ public:
     /// hardly a series of the same day every month.
     static std::optional<Winner> mostLikely(const std::vector<DateSequence>& readings, bool varied);
 
+    /// Days from the first to the last.
+    int span() const;
+
 private:
     bool isSorted() const;
-    int span() const;
     int distinctDays() const;
     bool isRegularSeries() const;
 

@@ -12,6 +12,7 @@
 /// The decimal mark of a table's amounts, found from all of them.
 struct DecimalMarkDecision {
     std::optional<char> mark; ///< empty when nothing decides
+    bool thousandths = false; ///< "1,250" has three decimals here, as every amount has
     Reason reason;
     int exampleLine = 0; ///< of an undecided amount
     std::string example; ///< host bytes

@@ -72,6 +72,7 @@ bool QifForms::decideMark(const Samples& samples) {
     const DecimalMarkDecision decision = DecimalMarks::decide(samples.table, samples.plan);
     if (decision.mark) {
         m_mark = *decision.mark;
+        m_thousandths = decision.thousandths;
         m_reasons.push_back(samples.placed(decision.reason));
     } else if (!decision.example.empty()) {
         m_undecided = Messages::make(MessageId::decimalMarkAmbiguous, samples.line(decision.exampleLine),
@@ -117,7 +118,7 @@ std::optional<Day> QifForms::day(std::string_view text) const {
 
 std::optional<Money> QifForms::amount(std::string_view text) const {
     const auto amount = AmountCells::read(text, m_mark);
-    if (!amount || (amount->thousand && !m_options.decimalMark))
+    if (!amount || (amount->thousand && !m_options.decimalMark && !m_thousandths))
         return std::nullopt;
     return amount->value();
 }

@@ -40,6 +40,7 @@ private:
 
     InspectionOptions m_options;
     char m_mark = '.';
+    bool m_thousandths = false; ///< "1,250" has three decimals
     std::optional<DateOrder> m_order;
     bool m_orderIsGuessed = false;
     /// The library finds out by itself that the month comes first: every date is

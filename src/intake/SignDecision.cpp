@@ -14,6 +14,9 @@
 namespace {
 
 constexpr double kGuessedSigns = 0.25;
+/// Several bookings and none of them an expense: perhaps the sign stands where nobody looks.
+constexpr double kNoExpense = 0.25;
+constexpr int kBookingsThatTell = 3;
 
 bool isBooking(const BookingRow& row) { return row.kind == BookingRow::Kind::booking; }
 
@@ -58,6 +61,7 @@ public:
         applyBalance(check);
         if (check.proof == BalanceProof::none && m_plan.sign == SignRule::asWritten && !columnsByUser)
             decideByWords();
+        doubtMissingSigns(check);
         m_plan.balance = check.proof;
         m_plan.newestFirst = check.newestFirst;
         m_plan.balanceBreaks = check.breaks;
@@ -80,6 +84,20 @@ private:
                  "Soll und Haben stehen in getrennten Spalten.");
         else if (m_plan.sign == SignRule::signColumn)
             tell(headerLine(), m_plan.roles.sign, "Das Vorzeichen steht als Kennzeichen in einer eigenen Spalte.");
+    }
+
+    void doubtMissingSigns(const BalanceCheck& check) {
+        if (check.proof == BalanceProof::certified || m_plan.sign != SignRule::asWritten)
+            return;
+        int count = 0;
+        for (const BookingRow& row : m_rows) {
+            if (!isBooking(row))
+                continue;
+            if (row.amount->isNegative())
+                return;
+            ++count;
+        }
+        m_decision.doubt += count >= kBookingsThatTell ? kNoExpense : 0.0;
     }
 
     /// Where gross, net and fees stand side by side, the running balance tells
@@ -175,9 +193,15 @@ namespace Signs {
 void adoptColumns(TablePlan& plan, const ColumnChoice& choice) {
     if (plan.roles.twoAmounts()) {
         plan.sign = SignRule::twoColumns;
-        const ColumnProfile* debit =
-            plan.roles.debit >= 0 ? &choice.profiles[static_cast<std::size_t>(plan.roles.debit)] : nullptr;
-        plan.debitIsNegative = debit != nullptr && debit->negative * 2 > debit->filled;
+        const auto mostlyNegative = [&](int column) {
+            if (column < 0)
+                return false;
+            const ColumnProfile& profile = choice.profiles[static_cast<std::size_t>(column)];
+            return profile.negative * 2 > profile.filled - profile.zeros;
+        };
+        plan.debitIsNegative = mostlyNegative(plan.roles.debit);
+        // A card's statement counts the debt: purchases raise it, payments lower it.
+        plan.creditIsNegative = !plan.debitIsNegative && mostlyNegative(plan.roles.credit);
     } else if (plan.roles.sign >= 0) {
         plan.sign = SignRule::signColumn;
     }

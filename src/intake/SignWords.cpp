@@ -17,7 +17,7 @@ struct Row {
 constexpr auto kMinus = AmountCell::Sign::minus;
 constexpr auto kPlus = AmountCell::Sign::plus;
 
-constexpr std::array<Row, 52> kMarks = {{
+constexpr std::array<Row, 67> kMarks = {{
     {"s", kMinus},
     {"h", kPlus},
     {"soll", kMinus},
@@ -70,10 +70,25 @@ constexpr std::array<Row, 52> kMarks = {{
     {"cargo", kMinus},
     {"abono", kPlus},
     {"depense", kMinus},
+    {"recette", kPlus},
+    {"uit", kMinus},
+    {"credited", kPlus},
+    {"debited", kMinus},
+    {"ut", kMinus},
+    {"inn", kPlus},
+    {"wplyw", kPlus},
+    {"wydatek", kMinus},
+    {"uznanie", kPlus},
+    {"obciazenie", kMinus},
+    {"erhalten", kPlus},
+    {"gesendet", kMinus},
+    {"sell", kPlus},
+    {"buy", kMinus},
+    {"fee", kMinus},
 }};
 
 // Parts of words, in this order: a returned direct debit brings the money back.
-constexpr std::array<Row, 34> kKinds = {{
+constexpr std::array<Row, 55> kKinds = {{
     {"ruecklastschrift", kPlus},
     {"rueckbuchung", kPlus},
     {"erstattung", kPlus},
@@ -90,6 +105,17 @@ constexpr std::array<Row, 34> kKinds = {{
     {"deposit", kPlus},
     {"accredito", kPlus},
     {"stipendio", kPlus},
+    {"salaire", kPlus},
+    {"salary", kPlus},
+    {"nomina", kPlus},
+    {"pensione", kPlus},
+    {"dividend", kPlus},
+    {"verkauf", kPlus},
+    {"vente", kPlus},
+    {"vendita", kPlus},
+    {"kauf", kMinus},
+    {"achat", kMinus},
+    {"acquisto", kMinus},
     {"lastschrift", kMinus},
     {"abbuchung", kMinus},
     {"belastung", kMinus},
@@ -108,6 +134,16 @@ constexpr std::array<Row, 34> kKinds = {{
     {"retrait", kMinus},
     {"addebito", kMinus},
     {"prelievo", kMinus},
+    {"incasso", kMinus},
+    {"betaalautomaat", kMinus},
+    {"geldautomaat", kMinus},
+    {"recibo", kMinus},
+    {"adeudo", kMinus},
+    {"entgelt", kMinus},
+    {"gebuehr", kMinus},
+    {"commission", kMinus},
+    {"paiement par carte", kMinus},
+    {"pagamento pos", kMinus},
 }};
 
 constexpr std::size_t kLongestMark = 20;

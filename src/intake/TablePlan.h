@@ -32,8 +32,10 @@ struct TablePlan {
     std::optional<Day> lastDay;
     char decimalMark = ',';
     bool markByUser = false;
+    bool thousandths = false; ///< "1,250" has three decimals: the column proves it
     SignRule sign = SignRule::asWritten;
-    bool debitIsNegative = false; ///< of two columns: the debits carry their minus
+    bool debitIsNegative = false;  ///< of two columns: the debits carry their minus
+    bool creditIsNegative = false; ///< and the credits do, as what lowers a debt
     BalanceProof balance = BalanceProof::none;
     bool newestFirst = false;       ///< only told by a running balance
     std::vector<int> balanceBreaks; ///< lines from 1, where the chain does not hold

@@ -135,6 +135,7 @@ bool TablePlanner::decideMark(TablePlan& plan) {
         return false;
     }
     plan.decimalMark = *decision.mark;
+    plan.thousandths = decision.thousandths;
     m_plan.reasons.push_back(decision.reason);
     return true;
 }

@@ -66,7 +66,9 @@ private:
     }
 
     void chooseCounterparty() {
-        const auto texty = [&](int c) { return !profile(c).isDate() && !profile(c).isCode(); };
+        const auto texty = [&](int c) {
+            return !profile(c).isDate() && !profile(c).isCode() && !profile(c).isAmount();
+        };
         const auto oneSide = [&](Role role, bool bothSidesToo) {
             return m_survey.best(
                 0,

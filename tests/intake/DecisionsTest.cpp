@@ -64,7 +64,8 @@ TEST(DateOrderDecision, WholeColumnDecides) {
         {"13022024;1;a\n", '.', kDmy, true, "eight digits, day in front"},
         {"09.03.;1;a\n", '.', kDmy, false, "no year"},
         {"99-01-02;1;a\n99-02-13;1;b\n", '.', kYmd, true, "two digits, year in front"},
-        {"24-01-02;1;a\n24-02-13;1;b\n", '.', std::nullopt, false, "years of two digits that could be days"},
+        {"24-01-02;1;a\n24-02-13;1;b\n", '.', kYmd, false, "read as days, the years scatter the bookings"},
+        {"02/01/24;1;a\n13/02/24;1;b\n", ',', kDmy, false, "and so do days read as years"},
     };
     for (const OrderCase& c : kCases) {
         const Cells cells(c.text);
@@ -118,6 +119,10 @@ TEST(DecimalMarkDecision, WholeColumnDecides) {
         {"1,000\n2,000\n", '.', "", "thousands, English"},
         {"1.000\n2,50\n", ',', "", "a thousand and a decimal comma"},
         {"5\n1.234,56\n", ',', "", "both marks in one amount"},
+        {"-100,250\n-1500,000\n", ',', "", "three decimals, as a number that no thousands group proves"},
+        {"-100,250\n-12,500\n", std::nullopt, "-100,250", "thousands, or cents with a zero behind them"},
+        {"-100,250\n-12,500\n500\n", '.', "", "whole amounts beside them: thousands"},
+        {"-100,250\n-12,345\n", '.', "", "no zero behind cents: thousands"},
         {"1'000.50\n", '.', "", "Swiss groups"},
         {"5\n6\n", ',', "", "whole amounts read the same"},
         {"Fr. 5\nFr. 6\n", ',', "", "the point belongs to the currency"},
