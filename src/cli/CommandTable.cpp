@@ -8,7 +8,7 @@ namespace {
 
 const Command* const kCommands[] = {
     &kFormatsCommand,  &kInspectCommand,  &kPreviewCommand, &kImportCommand,
-    &kAccountsCommand, &kBookingsCommand, &kShowCommand,
+    &kAccountsCommand, &kBookingsCommand, &kShowCommand,    &kProfilesCommand,
 };
 
 } // namespace

@@ -19,6 +19,8 @@ public:
     const FileCensus& census() const { return m_plan.census; }
     /// What was found in the file; null where it is read as it is.
     const IntakeResult* intake() const { return m_plan.intake ? &*m_plan.intake : nullptr; }
+    /// The name of the profile by which it is read.
+    const std::optional<std::string>& profile() const { return m_plan.profile; }
     /// Whether the first line with content is no record.
     bool hasHeader() const { return m_plan.request.header || traits().firstLineAlwaysHeader; }
     char delimiter() const { return m_plan.request.delimiter; }

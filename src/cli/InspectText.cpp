@@ -110,7 +110,7 @@ void writeLine(Console& console, std::string_view label, std::string_view value)
 namespace InspectText {
 
 void writeJson(Console& console, std::string_view file, const IntakeResult& result,
-               const std::vector<Message>& messages) {
+               const std::optional<std::string>& profile, const std::vector<Message>& messages) {
     Json reasons = Json::array();
     for (const Reason& reason : result.reasons)
         reasons.push_back(reason.text + placeOf(reason));
@@ -122,12 +122,16 @@ void writeJson(Console& console, std::string_view file, const IntakeResult& resu
                      {"preambleLines", result.preambleLines},
                      {"delimiter", delimiterJson(result)},
                      {"header", result.header},
+                     {"headerNames", result.headerNames},
                      {"columns", columnsJson(result)},
+                     {"dateOrder", result.dateOrder ? Json(DateCells::name(*result.dateOrder)) : Json(nullptr)},
+                     {"decimal", result.decimalMark ? Json(std::string(1, *result.decimalMark)) : Json(nullptr)},
                      {"confidence", std::round(result.confidence * kHundredths) / kHundredths},
                      {"reasons", reasons},
                      {"untouched", result.prepared.untouched},
                      {"balance", balanceName(result.balance)},
                      {"decided", !result.undecided.has_value()},
+                     {"profile", profile ? Json(*profile) : Json(nullptr)},
                      {"messages", FileReportText::json(messages)}};
     console.write(JsonText::of(document) + "\n");
 }
@@ -146,6 +150,10 @@ void writeTable(Console& console, std::string_view file, const IntakeResult& res
                   "Trennzeichen:", result.delimiter == '\t' ? "tab" : HostText::toUtf8({&result.delimiter, 1}));
         writeLine(console, "Kopfzeile:", result.header ? "ja" : "nein");
         writeLine(console, "Spalten:", columnsText(result));
+        if (result.dateOrder)
+            writeLine(console, "Datum:", DateCells::name(*result.dateOrder));
+        if (result.decimalMark)
+            writeLine(console, "Dezimalzeichen:", std::string(1, *result.decimalMark));
         writeLine(console, "Saldo:", balanceText(result.balance));
     }
     writeLine(console, "Sicherheit:", percent(result.confidence));

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -12,9 +14,9 @@
 /// What was found in a file, shown.
 namespace InspectText {
 
-/// `file` is the shell's bytes.
+/// `file` is the shell's bytes, `profile` the one by which it was read.
 void writeJson(Console& console, std::string_view file, const IntakeResult& result,
-               const std::vector<Message>& messages);
+               const std::optional<std::string>& profile, const std::vector<Message>& messages);
 void writeTable(Console& console, std::string_view file, const IntakeResult& result);
 
 } // namespace InspectText

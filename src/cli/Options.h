@@ -20,6 +20,8 @@ struct Options {
     std::optional<std::string> format;
     std::optional<std::string> info;
     std::optional<std::string> limit;
+    std::optional<std::string> profile;
+    std::optional<std::string> saveProfile;
     std::optional<std::string> color;
 
     bool unassigned = false;

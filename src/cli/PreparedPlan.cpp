@@ -9,7 +9,10 @@
 #include "cli/ColumnOption.h"
 #include "cli/FileBytes.h"
 #include "cli/IntakeMessages.h"
+#include "cli/ProfileChoice.h"
+#include "cli/ProfileFolder.h"
 #include "cli/SystemText.h"
+#include "cli/UsageError.h"
 
 namespace {
 
@@ -51,16 +54,48 @@ void showAsItStands(ReadingPlan& plan, std::string_view bytes, const ReadingOpti
     plan.request.columns.reset();
 }
 
+/// With what a profile of the user's says, if one goes with the file.
+IntakeResult inspected(ReadingPlan& plan, std::string_view bytes, const ReadingOptions& options) {
+    IntakeResult result = Intake::read(bytes, plan.traits->format, options.forInspection());
+    if (options.saveProfile && !options.profile)
+        return result; // the new profile is made from the file itself
+    const ProfileChoice choice = ProfileChoice::of(options.profile, result.headerNames);
+    if (choice.message)
+        plan.messages.push_back(*choice.message);
+    if (!choice.profile)
+        return result;
+    plan.profile = choice.profile->name;
+    const ReadingOptions narrowed = options.completedBy(choice.profile->readingOptions());
+    return Intake::read(bytes, plan.traits->format, narrowed.forInspection());
+}
+
+void saveProfile(ReadingPlan& plan, const IntakeResult& result, const ReadingOptions& options) {
+    const std::string& name = *options.saveProfile;
+    if (result.undecided) {
+        plan.messages.push_back(
+            Message::of(Problem::profileNotSaved, {name, "Es ist nicht entschieden, wie die Datei zu lesen ist."}));
+        return;
+    }
+    try {
+        ProfileFolder::save(Profile::of(name, result, options.given));
+        plan.messages.push_back(Message::of(Problem::profileSaved, {name}));
+    } catch (const UsageError& error) {
+        plan.messages.push_back(Message::of(Problem::profileNotSaved, {name, error.what()}));
+    }
+}
+
 void prepare(ReadingPlan& plan, std::string_view bytes, const ReadingOptions& options, InputFile& input) {
     const bool asItStands = options.unassigned && plan.traits->recordPerLine;
     if (asItStands || nothingToRead(bytes)) {
         showAsItStands(plan, bytes, options, input);
         return;
     }
-    IntakeResult result = Intake::read(bytes, plan.traits->format, options.forInspection());
+    IntakeResult result = inspected(plan, bytes, options);
     std::vector<Message> messages = IntakeMessages::of(result, input);
     plan.messages.insert(plan.messages.end(), std::make_move_iterator(messages.begin()),
                          std::make_move_iterator(messages.end()));
+    if (options.saveProfile)
+        saveProfile(plan, result, options);
     if (!result.undecided) {
         adopt(plan, std::move(result), input);
         return;

@@ -32,6 +32,10 @@ enum class Problem {
     bookingRefused,
     listEnded,
     optionIgnored,
+    profileChanged,
+    profileUsed,
+    profileSaved,
+    profileNotSaved,
     outputFailed,
     unexpected,
 };

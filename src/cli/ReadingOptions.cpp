@@ -9,6 +9,7 @@
 
 #include "cli/ColumnOption.h"
 #include "cli/FormatTable.h"
+#include "cli/ProfileFolder.h"
 #include "cli/Suggestion.h"
 #include "cli/UsageError.h"
 #include "datamodel/HostText.h"
@@ -70,7 +71,9 @@ char decimalMarkOf(const std::string& text) {
 void refuseWithVerbatim(const Options& options) {
     const std::pair<const char*, bool> given[] = {{"--encoding", options.encoding.has_value()},
                                                   {"--date-order", options.dateOrder.has_value()},
-                                                  {"--decimal", options.decimal.has_value()}};
+                                                  {"--decimal", options.decimal.has_value()},
+                                                  {"--profile", options.profile.has_value()},
+                                                  {"--save-profile", options.saveProfile.has_value()}};
     for (const auto& [name, isGiven] : given) {
         if (options.verbatim && isGiven)
             throw UsageError(std::string(name) + " und --verbatim schließen einander aus: Mit --verbatim bekommt die "
@@ -121,7 +124,29 @@ ReadingOptions ReadingOptions::from(const Options& options) {
     reading.verbatim = options.verbatim;
     reading.allowUndated = options.allowUndated;
     requireDateAndAmount(reading);
+    if (options.profile)
+        ProfileFolder::checkName("--profile", *options.profile);
+    if (options.saveProfile)
+        ProfileFolder::checkName("--save-profile", *options.saveProfile);
+    reading.profile = options.profile;
+    reading.saveProfile = options.saveProfile;
+    reading.given = options;
     return reading;
+}
+
+ReadingOptions ReadingOptions::completedBy(const ReadingOptions& others) const {
+    ReadingOptions all = *this;
+    const auto complete = [](auto& mine, const auto& theirs) {
+        if (!mine)
+            mine = theirs;
+    };
+    complete(all.columns, others.columns);
+    complete(all.delimiter, others.delimiter);
+    complete(all.header, others.header);
+    complete(all.encoding, others.encoding);
+    complete(all.dateOrder, others.dateOrder);
+    complete(all.decimalMark, others.decimalMark);
+    return all;
 }
 
 InspectionOptions ReadingOptions::forInspection() const {

@@ -24,9 +24,15 @@ struct ReadingOptions {
     bool unassigned = false;
     bool verbatim = false;
     bool allowUndated = false;
+    std::optional<std::string> profile;
+    std::optional<std::string> saveProfile;
+    Options given; ///< as it was written
 
     /// Throws UsageError.
     static ReadingOptions from(const Options& options);
+
+    /// What is not said here, as `others` say it.
+    ReadingOptions completedBy(const ReadingOptions& others) const;
 
     /// What of it narrows the inspection of a file.
     InspectionOptions forInspection() const;

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "cli/FileCensus.h"
@@ -25,4 +26,5 @@ struct ReadingPlan {
     /// What was found in the file, unless it is read as it is; `prepared.text`
     /// is left out.
     std::optional<IntakeResult> intake;
+    std::optional<std::string> profile; ///< the name of the one that was used
 };

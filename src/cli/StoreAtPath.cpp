@@ -2,38 +2,19 @@
 // SPDX-License-Identifier: MIT
 #include "cli/StoreAtPath.h"
 
-#include <cerrno>
-#include <cstdlib>
-#include <sys/stat.h>
-
 #include "cli/UsageError.h"
+#include "cli/UserFolder.h"
 
 namespace {
 
 constexpr const char* kBelowDataDirectory = "dmimport/bestand.db";
 
-/// A directory that the environment names; a relative one does not count.
-std::filesystem::path named(const char* variable) {
-    const char* value = std::getenv(variable);
-    const std::filesystem::path path = value != nullptr ? value : "";
-    return path.is_absolute() ? path : std::filesystem::path();
-}
-
 std::filesystem::path defaultStore() {
-    if (const std::filesystem::path data = named("XDG_DATA_HOME"); !data.empty())
-        return data / kBelowDataDirectory;
-    if (const std::filesystem::path home = named("HOME"); !home.empty())
-        return home / ".local/share" / kBelowDataDirectory;
-    throw UsageError(
-        "Es ist nicht bekannt, wo Ihre Daten liegen (HOME fehlt); nennen Sie den Bestand mit --store DATEI.");
-}
-
-/// For the user alone. What goes wrong here, opening the store tells.
-void makeDirectories(const std::filesystem::path& path) {
-    if (path.empty() || ::mkdir(path.c_str(), S_IRWXU) == 0 || errno != ENOENT)
-        return;
-    makeDirectories(path.parent_path());
-    ::mkdir(path.c_str(), S_IRWXU);
+    const std::filesystem::path data = UserFolder::data();
+    if (data.empty())
+        throw UsageError(
+            "Es ist nicht bekannt, wo Ihre Daten liegen (HOME fehlt); nennen Sie den Bestand mit --store DATEI.");
+    return data / kBelowDataDirectory;
 }
 
 } // namespace
@@ -53,7 +34,7 @@ Store& StoreAtPath::forReading() {
 Store& StoreAtPath::forWriting() {
     if (!m_store) {
         if (m_isDefault)
-            makeDirectories(m_path.parent_path());
+            UserFolder::make(m_path.parent_path());
         m_store.emplace(Store::open(m_path, Store::Access::readWrite));
     }
     return *m_store;

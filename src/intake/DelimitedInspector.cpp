@@ -46,8 +46,11 @@ DelimitedFile inspect(std::span<const std::string_view> lines, const InspectionO
     file.table = RecordTable::read(lines, plan.delimiter, lines.size());
 
     TablePlanner planner(file.table, options, lexicon, plan);
-    for (const TableRegion& region : TableFinder::find(file.table, lexicon, options.header))
+    for (const TableRegion& region : TableFinder::find(file.table, lexicon, options.header)) {
         planner.add(region);
+        if (!plan.header && (!plan.tables.empty() || plan.undecided))
+            plan.header = region.header;
+    }
     file.rows = planner.takeRows();
     if (auto outside = columnOutside(file.table, plan, options))
         plan.undecided = std::move(outside);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <map>
 #include <optional>
 #include <string>
@@ -22,6 +23,9 @@ struct ImportPlan {
     /// Set when something that changes amounts or dates cannot be decided; its
     /// text names the options that decide it. Nothing is imported then.
     std::optional<IntakeMessage> undecided;
+
+    /// Record of the column names: of the first table, or of the one that could not be decided.
+    std::optional<std::size_t> header;
 
     bool hasHeader() const { return !tables.empty() && tables.front().region.header.has_value(); }
     /// Lines above the first table.

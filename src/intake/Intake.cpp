@@ -47,6 +47,16 @@ const std::vector<FixedLayout>& fixedLayouts() {
     return layouts;
 }
 
+/// The cells of a header, without blank ones behind the last name.
+std::vector<std::string> namesOf(const RecordTable& table, std::size_t record) {
+    std::vector<std::string> names;
+    for (int column = 0; column < table.record(record).cellCount; ++column)
+        names.push_back(TextTools::toUtf8(TextTools::trim(table.cell(record, column))));
+    while (!names.empty() && names.back().empty())
+        names.pop_back();
+    return names;
+}
+
 /// Whether the module that fixes a layout finds every field where it looks.
 bool keepsLayout(Import::E_SupportedImportFormats format, const PreparedFile& prepared) {
     for (const FixedLayout& layout : fixedLayouts()) {
@@ -87,6 +97,12 @@ void readDelimited(const PhysicalLines& physical, const InspectionOptions& optio
     const ImportPlan& plan = file.plan;
     result.delimiter = plan.delimiter;
     result.header = plan.hasHeader();
+    if (!plan.tables.empty() && !plan.undecided) {
+        result.dateOrder = plan.tables.front().dateOrder;
+        result.decimalMark = plan.tables.front().decimalMark;
+    }
+    if (plan.header)
+        result.headerNames = namesOf(file.table, *plan.header);
     result.preambleLines = plan.preambleLines(file.table);
     result.columns = plan.columns();
     result.confidence = plan.undecided ? std::min(plan.confidence, 0.3) : plan.confidence;

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "framework/E_SupportedImportFormats.h"
+#include "intake/Dates.h"
 #include "intake/Encoding.h"
 #include "intake/InspectionOptions.h"
 #include "intake/IntakeMessage.h"
@@ -28,6 +29,10 @@ struct IntakeResult {
     int preambleLines = 0;
     char delimiter = '\0'; ///< of delimited files
     bool header = false;
+    std::vector<std::string> headerNames; ///< as they stand, UTF-8; none without a header
+    /// Of the first table; nothing where no date or amount told.
+    std::optional<DateOrder> dateOrder;
+    std::optional<char> decimalMark;
     std::map<std::string, std::vector<int>> columns; ///< field to input columns (from 0)
     BalanceProof balance = BalanceProof::none;
     double confidence = 0.0;

@@ -11,3 +11,4 @@ extern const Command kImportCommand;
 extern const Command kAccountsCommand;
 extern const Command kBookingsCommand;
 extern const Command kShowCommand;
+extern const Command kProfilesCommand;

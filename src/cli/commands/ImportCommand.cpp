@@ -12,9 +12,9 @@
 
 namespace {
 
-const char* const kOptions[] = {"--store",    "--columns",       "--delimiter",   "--header", "--no-header",
-                                "--encoding", "--date-order",    "--decimal",     "--format", "--verbatim",
-                                "--info",     "--allow-undated", "--keep-partial"};
+const char* const kOptions[] = {"--store",        "--columns",    "--delimiter", "--header",        "--no-header",
+                                "--encoding",     "--date-order", "--decimal",   "--format",        "--profile",
+                                "--save-profile", "--verbatim",   "--info",      "--allow-undated", "--keep-partial"};
 
 ImportWishes wishesOf(const Options& options) {
     const std::optional<std::string> info = HostText::fromUtf8(options.info.value_or(""));

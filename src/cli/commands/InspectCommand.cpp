@@ -9,15 +9,15 @@
 
 namespace {
 
-const char* const kOptions[] = {"--columns",  "--delimiter",  "--header",  "--no-header",
-                                "--encoding", "--date-order", "--decimal", "--format"};
+const char* const kOptions[] = {"--columns",    "--delimiter", "--header", "--no-header", "--encoding",
+                                "--date-order", "--decimal",   "--format", "--profile",   "--save-profile"};
 
 ExitStatus run(const Options& options, Console& console) {
     const FileReading reading(options.operands.front(), ReadingOptions::from(options));
     const std::vector<Message>& messages = reading.messages();
     if (const IntakeResult* result = reading.intake()) {
         if (console.json())
-            InspectText::writeJson(console, reading.argument(), *result, messages);
+            InspectText::writeJson(console, reading.argument(), *result, reading.profile(), messages);
         else
             InspectText::writeTable(console, reading.argument(), *result);
     }

@@ -11,9 +11,9 @@
 
 namespace {
 
-const char* const kOptions[] = {"--columns",   "--unassigned", "--delimiter",  "--header",
-                                "--no-header", "--encoding",   "--date-order", "--decimal",
-                                "--format",    "--verbatim",   "--limit"};
+const char* const kOptions[] = {"--columns",      "--unassigned", "--delimiter", "--header", "--no-header",
+                                "--encoding",     "--date-order", "--decimal",   "--format", "--profile",
+                                "--save-profile", "--verbatim",   "--limit"};
 
 ExitStatus run(const Options& options, Console& console) {
     const std::size_t limit = rowLimit(options.limit);
