@@ -25,15 +25,15 @@ show() {
     "$@"
 }
 
-# Previews and imports one file; the options say how to read it.
+# Previews and imports one file.
 sample() {
-    local file=$1
-    shift
-    show "$dmimport" preview "$file" "$@" --limit 5
-    show "$dmimport" import "$file" "$@" --store "$store"
+    show "$dmimport" preview "$1" --limit 5
+    show "$dmimport" import "$1" --store "$store"
 }
 
-sample data/girokonto.csv --header --columns "0=Datum,2=Buchungstext,3=Empfaenger,4=Verwendungszweck,5=Betrag"
+show "$dmimport" inspect data/umsaetze.csv
+sample data/umsaetze.csv
+sample data/girokonto.csv
 sample data/steuerdaten.sdi
 sample data/haushalt.zhof
 sample data/girokonto.ssx

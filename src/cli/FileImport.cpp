@@ -17,6 +17,7 @@ FileImport::FileImport(const FileReading& reading, const ImportWishes& wishes) :
     m_report.file = reading.argument();
     m_report.format = reading.traits().format;
     m_report.messages = reading.messages();
+    m_report.balanceFits = reading.intake() != nullptr && reading.intake()->balance == BalanceProof::certified;
 }
 
 void FileImport::run(StoreAtPath& storeAtPath, const Console& console) {

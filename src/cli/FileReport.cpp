@@ -60,6 +60,8 @@ std::string summary(const FileReport& report) {
         text += ", " + counted(report.refusedCount, "abgelehnt", "abgelehnt");
     if (report.undatedCount != 0)
         text += ", davon " + std::to_string(report.undatedCount) + " ohne Datum";
+    if (report.balanceFits)
+        text += ", vom Saldo bestätigt";
     if (report.sessionId != 0)
         text += " (Sitzung " + std::to_string(report.sessionId) + ")";
     return text + ".";

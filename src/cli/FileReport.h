@@ -40,6 +40,7 @@ struct FileReport {
     int sessionId = 0;     ///< 0 where the store keeps no session of this import
     std::string errorText; ///< the library's, UTF-8
     bool committed = false;
+    bool balanceFits = false; ///< balances in the file confirm how it was read
     LineCounts lines;
     std::optional<RecordCounts> records;
     std::vector<Message> messages;

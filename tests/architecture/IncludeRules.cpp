@@ -63,6 +63,8 @@ const std::vector<Rule> kRules = {
     {"intake/QifFile.cpp", {"intake/", "qif/QifHeaderTable.h"}, {}},
     {"cli/", kContract + kFrontDoors + Prefixes{"cli/", "datamodel/", "intake/", "store/"},
      kPosix + Prefixes{"CLI/", "nlohmann/"}},
+    // What suits the whole process.
+    {"cli/main.cpp", kContract + kFrontDoors + Prefixes{"cli/", "datamodel/", "intake/", "store/"}, {"malloc.h"}},
 };
 
 bool startsWith(std::string_view text, std::string_view start) { return text.substr(0, start.size()) == start; }
