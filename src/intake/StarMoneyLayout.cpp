@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "intake/StarMoneyLayout.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <utility>
 
@@ -17,13 +18,15 @@ constexpr int kAmount = 2;
 constexpr int kFirstPurpose = 4;
 constexpr int kLastPurpose = 17;
 constexpr char kDelimiter = '|';
+constexpr std::size_t kSample = 400; // lines
 
 } // namespace
 
 namespace StarMoneyLayout {
 
 bool isIn(std::span<const std::string_view> lines) {
-    const RecordTable table = RecordTable::read(lines, kDelimiter, lines.size());
+    const auto sample = lines.subspan(0, std::min(lines.size(), kSample));
+    const RecordTable table = RecordTable::read(sample, kDelimiter, sample.size());
     bool header = true;
     std::size_t sound = 0;
     std::size_t others = 0;
