@@ -3,6 +3,8 @@
 #include "cli/FileImport.h"
 
 #include <algorithm>
+#include <optional>
+#include <system_error>
 #include <utility>
 
 #include "cli/HostText1252.h"
@@ -10,6 +12,8 @@
 #include "cli/LineAccount.h"
 #include "cli/RefusalMessages.h"
 #include "cli/SafeText.h"
+#include "cli/SessionBook.h"
+#include "cli/SystemText.h"
 #include "datamodel/DataModel.h"
 #include "datamodel/TableSpec.h"
 
@@ -21,13 +25,14 @@ FileImport::FileImport(const FileReading& reading, const ImportWishes& wishes) :
 }
 
 void FileImport::run(StoreAtPath& storeAtPath, const Console& console) {
-    if (m_reading.isRefused()) {
+    if (m_reading.isRefused() || !takeChecksum()) {
         askForWords();
         m_report.lines = LineAccount::of(m_reading, m_report);
         return;
     }
     Store& store = storeAtPath.forWriting();
-    importInto(store.model(), console);
+    if (m_wishes.again || !wasImportedBefore(store.model()))
+        importInto(store.model(), console);
     m_report.lines = LineAccount::of(m_reading, m_report);
     const bool keeps = !m_failed || (m_wishes.keepPartial && m_report.importedCount > 0);
     if (keeps) {
@@ -45,6 +50,24 @@ void FileImport::askForWords() {
         return;
     LibraryRun run;
     m_report.errorText = m_reading.simulate(run).errorText;
+}
+
+bool FileImport::takeChecksum() {
+    try {
+        m_checksum = m_reading.checksum();
+        return true;
+    } catch (const std::system_error& error) {
+        fail(Message::of(Problem::fileUnreadable, {m_report.file, systemText(error.code().value())}));
+        return false;
+    }
+}
+
+/// Repeating a file by mistake is the commonest way to double one's books.
+bool FileImport::wasImportedBefore(DataManager& model) {
+    const std::optional<SessionBook::Session> before = SessionBook::find(model, m_checksum);
+    if (before)
+        fail(Message::of(Problem::importedBefore, {std::to_string(before->number), before->day, before->fileName}));
+    return before.has_value();
 }
 
 void FileImport::importInto(DataManager& model, const Console& console) {
@@ -81,30 +104,40 @@ void FileImport::judge(const RunOutcome& outcome, const ModelWatch& watch, const
     if (outcome.result == 0 && watch.refusals().empty()) // a refused record that ended the import has its message
         fail(LibraryFailure::message(m_reading, outcome));
     m_failed = m_failed || outcome.result == 0;
-    noteUndated(watch, added);
+    const std::vector<std::size_t> lines = linesOfStored(watch, added);
+    noteUndated(added, lines);
     countRecords(watch);
+    SessionBook::keepLines(added, lines);
+    SessionBook::keepSession(added, {m_checksum, m_report.refusedCount, 0});
     std::stable_sort(m_report.messages.begin(), m_report.messages.end(),
                      [](const Message& a, const Message& b) { return a.line < b.line; });
 }
 
-void FileImport::noteUndated(const ModelWatch& watch, const NewRecords& added) {
+std::vector<std::size_t> FileImport::linesOfStored(const ModelWatch& watch, const NewRecords& added) const {
+    const std::size_t stored = added.count();
+    const std::vector<std::size_t> all = m_reading.linesOfRecords(stored + watch.refusals().size());
+    if (all.empty())
+        return all;
+    std::vector<std::size_t> lines;
+    lines.reserve(stored);
+    auto refused = watch.refusals().begin();
+    for (std::size_t record = 1; record <= all.size(); ++record) {
+        if (refused != watch.refusals().end() && refused->record == record)
+            ++refused;
+        else
+            lines.push_back(all[record - 1]);
+    }
+    return lines.size() == stored ? lines : std::vector<std::size_t>();
+}
+
+void FileImport::noteUndated(const NewRecords& added, const std::vector<std::size_t>& lines) {
     const std::vector<std::size_t> undated = added.undated();
     m_report.undatedCount = undated.size();
     if (!m_reading.traits().recordPerLine)
         return; // budgets and categories never have a date
-    auto refused = watch.refusals().begin();
-    std::size_t record = 0; // of the import
-    std::size_t row = 0;    // of those that were stored
-    for (const std::size_t wanted : undated) {
-        while (row < wanted) {
-            ++record;
-            if (refused != watch.refusals().end() && refused->record == record)
-                ++refused;
-            else
-                ++row;
-        }
-        m_report.messages.push_back(Message::of(Problem::noDate, {}, RefusalMessages::lineOf(record, m_reading)));
-    }
+    for (const std::size_t row : undated)
+        m_report.messages.push_back(
+            Message::of(Problem::noDate, {}, lines.empty() ? std::nullopt : std::optional(lines[row - 1])));
 }
 
 void FileImport::countRecords(const ModelWatch& watch) {

@@ -16,6 +16,7 @@ struct ImportWishes {
     std::string info; ///< kept with the session; host bytes
     bool allowUndated = false;
     bool keepPartial = false;
+    bool again = false; ///< also what was imported before
 };
 
 /// The import of one file into a store: one transaction, which a failure takes
@@ -33,12 +34,17 @@ private:
     void askForWords();
     void importInto(DataManager& model, const Console& console);
     void judge(const RunOutcome& outcome, const ModelWatch& watch, const NewRecords& added);
-    void noteUndated(const ModelWatch& watch, const NewRecords& added);
+    bool takeChecksum();
+    bool wasImportedBefore(DataManager& model);
+    /// The line of each record that was stored, in order; empty where it is not known.
+    std::vector<std::size_t> linesOfStored(const ModelWatch& watch, const NewRecords& added) const;
+    void noteUndated(const NewRecords& added, const std::vector<std::size_t>& lines);
     void countRecords(const ModelWatch& watch);
     void fail(Message message);
 
     const FileReading& m_reading;
     const ImportWishes& m_wishes;
     FileReport m_report;
+    std::string m_checksum;
     bool m_failed = false; ///< the file as a whole, not single records of it
 };

@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <system_error>
 
+#include "cli/FileChecksum.h"
 #include "cli/FileLines.h"
 #include "cli/PreparedPlan.h"
+#include "cli/QifRecordLines.h"
 #include "cli/SystemText.h"
 #include "cli/VerbatimPlan.h"
 #include "datamodel/DataManager.h"
@@ -65,6 +67,20 @@ RunOutcome FileReading::import(LibraryRun& run, Node* target, const std::string&
     request.simulate = false;
     request.info = info;
     return run.run(request, target);
+}
+
+std::string FileReading::checksum() const { return FileChecksum::of(m_input.originalPath()); }
+
+std::vector<std::size_t> FileReading::linesOfRecords(std::size_t records) const {
+    std::vector<std::size_t> lines;
+    if (traits().recordPerLine) {
+        lines.reserve(records);
+        for (std::size_t record = 1; record <= records; ++record)
+            lines.push_back(census().readLine(record + (hasHeader() ? 1 : 0)));
+    } else if (intake() != nullptr) {
+        lines = QifRecordLines::of(m_input.path());
+    }
+    return lines.size() == records ? lines : std::vector<std::size_t>();
 }
 
 std::vector<std::string> FileReading::lines(const std::vector<std::size_t>& numbers) const {

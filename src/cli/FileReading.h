@@ -42,6 +42,10 @@ public:
 
     RunOutcome simulate(LibraryRun& run) const;
     RunOutcome import(LibraryRun& run, Node* target, const std::string& info) const;
+    /// Of the file itself; see FileChecksum. Throws std::system_error.
+    std::string checksum() const;
+    /// The line of each record that the library makes, in order, as far as the format tells; else empty.
+    std::vector<std::size_t> linesOfRecords(std::size_t records) const;
     /// The bytes of the lines of those ascending numbers, as the library reads them.
     std::vector<std::string> lines(const std::vector<std::size_t>& numbers) const;
 

@@ -47,7 +47,7 @@ Problem problemOf(int error) { return error == ENOENT ? Problem::fileMissing : P
 
 } // namespace
 
-InputFile::InputFile(const std::string& argument) : m_argument(argument), m_path(argument) {
+InputFile::InputFile(const std::string& argument) : m_argument(argument), m_path(argument), m_originalPath(argument) {
     try {
         look();
     } catch (const std::system_error& error) {
@@ -105,6 +105,7 @@ void InputFile::copy(int source) {
             throw std::system_error(errno, std::generic_category());
     }
     m_path = path;
+    m_originalPath = path;
     m_mayBeAsked = true;
 }
 

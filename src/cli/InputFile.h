@@ -26,6 +26,8 @@ public:
     const std::string& argument() const { return m_argument; }
     /// Where the program reads it; the argument itself as a rule.
     const std::string& path() const { return m_path; }
+    /// Where the person's own bytes lie, also when the library reads prepared ones.
+    const std::string& originalPath() const { return m_originalPath; }
     /// Why it cannot be read; then only `argument` and `mayBeAsked` are of use.
     const std::optional<Message>& problem() const { return m_problem; }
     /// Whether the library may be called with it: it can come to no harm there.
@@ -46,6 +48,7 @@ private:
 
     std::string m_argument;
     std::string m_path;
+    std::string m_originalPath;
     std::optional<Message> m_problem;
     bool m_mayBeAsked = false;
     std::unique_ptr<ScratchFolder> m_folder;

@@ -28,6 +28,21 @@ std::vector<std::size_t> NewRecords::undated() const {
     return found;
 }
 
+std::size_t NewRecords::count() const { return dataSets(m_model).getNodeCount() - m_recordsBefore; }
+
+std::vector<RecordNode*> NewRecords::rows() const {
+    TableNode& table = dataSets(m_model);
+    std::vector<RecordNode*> rows;
+    for (unsigned row = m_recordsBefore + 1; row <= table.getNodeCount(); ++row)
+        rows.push_back(table.row(row));
+    return rows;
+}
+
+RecordNode* NewRecords::session() const {
+    TableNode& table = sessions(m_model);
+    return hasSession() ? table.row(table.getNodeCount()) : nullptr;
+}
+
 bool NewRecords::hasSession() const { return sessions(m_model).getNodeCount() > m_sessionsBefore; }
 
 int NewRecords::sessionId() const {

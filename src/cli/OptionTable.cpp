@@ -37,6 +37,8 @@ const OptionSpec kOptions[] = {
      "--info \"Girokonto Mai\""},
     {"--allow-undated", nullptr, &Options::allowUndated,
      "Datensätze, deren Datum sich nicht lesen lässt, ohne Datum übernehmen", "--allow-undated"},
+    {"--again", nullptr, &Options::again, "die Datei importieren, auch wenn ihr Inhalt schon importiert wurde",
+     "--again"},
     {"--keep-partial", nullptr, &Options::keepPartial, "bei einem Fehler behalten, was bis dahin übernommen wurde",
      "--keep-partial"},
     {"--limit", "ANZAHL", &Options::limit, "höchstens so viele Zeilen", "--limit 20"},

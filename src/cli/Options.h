@@ -30,6 +30,7 @@ struct Options {
     bool verbatim = false;
     bool allowUndated = false;
     bool keepPartial = false;
+    bool again = false;
     bool json = false;
     bool quiet = false;
 };

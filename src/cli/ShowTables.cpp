@@ -23,10 +23,15 @@ constexpr const char* kAccounts = "HomeBankingImport";
 constexpr const char* kRecordFields[] = {"Datum",        "Betrag",    "Empfaenger",     "Verwendungszweck",
                                          "Buchungstext", "Kategorie", "Unterkategorie", "ImportID",
                                          "UniqueID"};
-constexpr const char* kSessionFields[] = {"ImportID", "ImportDatum", "ImportTyp", "ImportFileName", "ImportInfo"};
+constexpr const char* kSessionFields[] = {"ImportID",    "ImportDatum",     "ImportTyp", "ImportFileName", "ImportInfo",
+                                          "Datensaetze", "Abgelehnt",       "Bekannt",   "Summe",          "ErsterTag",
+                                          "LetzterTag",  "Zurueckgenommen", "Pruefsumme"};
 constexpr const char* kAccountFields[] = {"BLZ", "KtoNummer", "Bezeichnung"};
 constexpr const char* kBookingFields[] = {"BuchungsDatum", "ValutaDatum", "Betrag", "Empfaenger", "Verwendungszweck"};
 constexpr const char* kCounterFields[] = {"NextImportID", "NextUniqueID", "LetztesImportDatum", "NeueDatenVorhanden"};
+
+constexpr const char* kRecordFieldsInJson[] = {"Zeile", "Geaendert"};
+constexpr const char* kSessionFieldsInJson[] = {"Pruefsumme"};
 
 template <const char* const* name>
 const RecordSpec& rowSpecOf(RecordNode& root) {
@@ -79,9 +84,9 @@ std::vector<ShownRow> rootAlone(RecordNode& root, std::size_t limit, std::size_t
 
 constexpr ShowTable kTables[] = {
     {"data-sets", "dataSets", "Datensatz", "Datensätze", kRecordFields, rowSpecOf<&kDataSets>, rowsOf<&kDataSets>,
-     false},
+     false, kRecordFieldsInJson},
     {"sessions", "sessions", "Importsitzung", "Importsitzungen", kSessionFields, rowSpecOf<&kSessions>,
-     rowsOf<&kSessions>, false},
+     rowsOf<&kSessions>, false, kSessionFieldsInJson},
     {"accounts", "accounts", "Konto", "Konten", kAccountFields, rowSpecOf<&kAccounts>, rowsOf<&kAccounts>, false},
     {"bookings", "bookings", "Buchung", "Buchungen", kBookingFields, bookingSpec, bookings, true},
     {"counters", "counters", "Zeile", "Zeilen", kCounterFields, rootSpec, rootAlone, false},
@@ -107,6 +112,13 @@ std::vector<std::size_t> fieldOrder(const ShowTable& table, const RecordSpec& sp
         if (std::find(order.begin(), order.end(), field) == order.end())
             order.push_back(field);
     }
+    return order;
+}
+
+std::vector<std::size_t> fieldsForPeople(const ShowTable& table, const RecordSpec& spec) {
+    std::vector<std::size_t> order = fieldOrder(table, spec);
+    for (const char* name : table.jsonOnly)
+        std::erase(order, *spec.fieldIndex(name));
     return order;
 }
 

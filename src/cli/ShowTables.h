@@ -25,6 +25,8 @@ struct ShowTable {
     /// how many there are.
     std::vector<struct ShownRow> (*rows)(RecordNode& root, std::size_t limit, std::size_t& total);
     bool hasAccount; ///< whether the account's two numbers stand before the fields
+    /// Fields that are in the JSON alone: nobody reads them in a table.
+    std::span<const char* const> jsonOnly = {};
 };
 
 struct ShownRow {
@@ -40,5 +42,7 @@ const ShowTable* byName(std::string_view name);
 
 /// Indexes of the fields of a row, in the order in which they are shown.
 std::vector<std::size_t> fieldOrder(const ShowTable& table, const RecordSpec& spec);
+/// The same without those that are in the JSON alone.
+std::vector<std::size_t> fieldsForPeople(const ShowTable& table, const RecordSpec& spec);
 
 } // namespace ShowTables

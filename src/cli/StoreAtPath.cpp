@@ -31,6 +31,12 @@ Store& StoreAtPath::forReading() {
     return *m_store;
 }
 
+Store& StoreAtPath::forExisting() {
+    if (!m_store)
+        static_cast<void>(Store::open(m_path, Store::Access::readOnly)); // says so where there is none
+    return forWriting();
+}
+
 Store& StoreAtPath::forWriting() {
     if (!m_store) {
         if (m_isDefault)

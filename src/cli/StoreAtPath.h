@@ -18,6 +18,8 @@ public:
     const std::filesystem::path& path() const { return m_path; }
     /// Throws StoreError.
     Store& forReading();
+    /// For writing into one that is there. Throws StoreError.
+    Store& forExisting();
     /// Creates the user's data directory where the store lies there.
     Store& forWriting();
 

@@ -16,7 +16,8 @@ std::vector<TableSpec> oneTable(const char* name, RecordSpec row) {
     return tables;
 }
 
-/// A record of the file imports. Category and budget records carry no date.
+/// A record of the file imports. Category and budget records carry no date. The last two fields are not the import
+/// library's: the line of the file where the record begins, and whether somebody has edited it since.
 RecordSpec dataSetRow() {
     return {{{"Empfaenger", DataType::eString},
              {"Kategorie", DataType::eString},
@@ -26,16 +27,27 @@ RecordSpec dataSetRow() {
              {"Datum", DataType::eDate, kTakesZeroDate},
              {"Betrag", DataType::eCurrency},
              {"ImportID", DataType::eInteger},
-             {"UniqueID", DataType::eInteger}},
+             {"UniqueID", DataType::eInteger},
+             {"Zeile", DataType::eInteger},
+             {"Geaendert", DataType::eBoolean}},
             {}};
 }
 
+/// The first five fields are the import library's; the others tell what became of the file.
 RecordSpec importSessionRow() {
     return {{{"ImportDatum", DataType::eDate},
              {"ImportInfo", DataType::eString},
              {"ImportID", DataType::eInteger},
              {"ImportTyp", DataType::eInteger},
-             {"ImportFileName", DataType::eString}},
+             {"ImportFileName", DataType::eString},
+             {"Pruefsumme", DataType::eString},
+             {"Datensaetze", DataType::eInteger},
+             {"Abgelehnt", DataType::eInteger},
+             {"Bekannt", DataType::eInteger},
+             {"Summe", DataType::eCurrency},
+             {"ErsterTag", DataType::eDate},
+             {"LetzterTag", DataType::eDate},
+             {"Zurueckgenommen", DataType::eBoolean}},
             {}};
 }
 

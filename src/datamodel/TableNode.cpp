@@ -89,6 +89,27 @@ bool TableNode::remove(RecordNode* record) {
     return true;
 }
 
+unsigned TableNode::removeLoaded(const std::function<bool(RecordNode&)>& isUnwanted) {
+    std::size_t kept = 0;
+    unsigned keptStored = 0;
+    for (std::size_t place = 0; place < m_rows.size(); ++place) {
+        const bool stored = place < m_storedRows;
+        RecordNode* record = m_rows[place].record();
+        if (record != nullptr && isUnwanted(*record)) {
+            if (stored)
+                m_removed.push_back(record->storeId());
+            RecordNode::destroy(record);
+            continue;
+        }
+        keptStored += stored ? 1 : 0;
+        m_rows[kept++] = m_rows[place];
+    }
+    const auto removed = static_cast<unsigned>(m_rows.size() - kept);
+    m_rows.erase(m_rows.begin() + static_cast<std::ptrdiff_t>(kept), m_rows.end());
+    m_storedRows = keptStored;
+    return removed;
+}
+
 void TableNode::attach(std::shared_ptr<RowSource> source, unsigned count) {
     if (!m_rows.empty() || !m_removed.empty() || source == nullptr || count > kMaxRows)
         throw std::invalid_argument("TableNode::attach: the table has rows, there is no source, or too many rows");

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <vector>
 
@@ -39,6 +40,9 @@ public:
     RecordNode* append();
     /// False when `record` is no row of this table.
     bool remove(RecordNode* record);
+    /// Removes the loaded rows of which `isUnwanted` holds, all in one pass, and
+    /// returns how many they were.
+    unsigned removeLoaded(const std::function<bool(RecordNode&)>& isUnwanted);
 
     /// Gives an empty table `count` rows that `source` loads on demand. Throws
     /// std::invalid_argument when the table is not empty, `source` is null or

@@ -117,7 +117,10 @@ std::optional<Day> QifForms::day(std::string_view text) const {
 }
 
 std::optional<Money> QifForms::amount(std::string_view text) const {
-    const auto amount = AmountCells::read(text, m_mark);
+    auto amount = AmountCells::read(text, m_mark);
+    // Sections may come from different programs: "129.90" among commas can be read in one way only.
+    if (!amount)
+        amount = AmountCells::read(text, m_mark == ',' ? '.' : ',');
     if (!amount || (amount->thousand && !m_options.decimalMark && !m_thousandths))
         return std::nullopt;
     return amount->value();

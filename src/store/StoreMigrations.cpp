@@ -109,8 +109,28 @@ CREATE TRIGGER HomeBankingDataSets_umgebucht AFTER UPDATE OF KontoID ON HomeBank
 END;
 )sql";
 
+// Where a record comes from, whether it was edited since, and what became of a
+// session. The trigger fires for other programs only, like those above.
+constexpr char kVersion2[] = R"sql(
+ALTER TABLE DataSets ADD COLUMN Zeile INTEGER;
+ALTER TABLE DataSets ADD COLUMN Geaendert INTEGER;
+CREATE TRIGGER DataSets_geaendert
+AFTER UPDATE OF Empfaenger, Kategorie, Unterkategorie, Verwendungszweck, Buchungstext, Datum, Betrag ON DataSets BEGIN
+    UPDATE DataSets SET Geaendert = 1 WHERE id = new.id;
+END;
+ALTER TABLE Importsessions ADD COLUMN Pruefsumme TEXT;
+ALTER TABLE Importsessions ADD COLUMN Datensaetze INTEGER;
+ALTER TABLE Importsessions ADD COLUMN Abgelehnt INTEGER;
+ALTER TABLE Importsessions ADD COLUMN Bekannt INTEGER;
+ALTER TABLE Importsessions ADD COLUMN Summe REAL;
+ALTER TABLE Importsessions ADD COLUMN ErsterTag TEXT;
+ALTER TABLE Importsessions ADD COLUMN LetzterTag TEXT;
+ALTER TABLE Importsessions ADD COLUMN Zurueckgenommen INTEGER;
+)sql";
+
 constexpr StoreMigration kMigrations[] = {
     {1, kVersion1},
+    {2, kVersion2},
 };
 
 } // namespace

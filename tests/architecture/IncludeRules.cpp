@@ -62,7 +62,7 @@ const std::vector<Rule> kRules = {
     {"intake/LibraryReading.cpp", {"dmwrite/ImportIntoDMHelper.h", "framework/ImportFileBase.h", "intake/"}, {}},
     {"intake/QifFile.cpp", {"intake/", "qif/QifHeaderTable.h"}, {}},
     {"cli/", kContract + kFrontDoors + Prefixes{"cli/", "datamodel/", "intake/", "store/"},
-     kPosix + Prefixes{"CLI/", "nlohmann/"}},
+     kPosix + Prefixes{"CLI/", "nlohmann/", "openssl/"}},
     // What suits the whole process.
     {"cli/main.cpp", kContract + kFrontDoors + Prefixes{"cli/", "datamodel/", "intake/", "store/"},
      kPosix + Prefixes{"CLI/", "malloc.h", "nlohmann/"}},

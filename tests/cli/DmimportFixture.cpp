@@ -50,7 +50,7 @@ ChildProgram DmimportTest::program(std::vector<std::string> arguments) const {
 
 Json DmimportTest::import(std::vector<std::string> arguments, int status) const {
     arguments.insert(arguments.begin(), "import");
-    arguments.insert(arguments.end(), {"--store", kStore, "--json"});
+    arguments.insert(arguments.end(), {"--again", "--store", kStore, "--json"});
     const Result result = run(arguments);
     EXPECT_EQ(result.status, status) << result.output << result.messages;
     const Json document = Json::parse(result.output);

@@ -45,7 +45,7 @@ protected:
     ChildProgram program(std::vector<std::string> arguments) const;
     Result run(std::vector<std::string> arguments) const { return program(std::move(arguments)).run(); }
 
-    /// `import … --store bestand.db --json`, and its document's one file.
+    /// `import … --again --store bestand.db --json`, and its document's one file.
     Json import(std::vector<std::string> arguments, int status) const;
     /// `preview … --json`.
     Json preview(std::vector<std::string> arguments, int status = 0) const;

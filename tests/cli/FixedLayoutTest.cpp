@@ -14,7 +14,7 @@ TEST_F(FixedLayoutTest, TaxDataNeedsNoColumns) {
     EXPECT_EQ(file.at("importedCount"), 2);
     EXPECT_EQ(show().at(0), Json::parse(R"({"Datum":"2004-03-01","Betrag":-650.0,"Empfaenger":"Vermieter",
         "Verwendungszweck":"Miete März","Buchungstext":"Dauerauftrag","Kategorie":"Wohnen","Unterkategorie":"Miete",
-        "ImportID":1,"UniqueID":1})"));
+        "ImportID":1,"UniqueID":1,"Zeile":1,"Geaendert":null})"));
     EXPECT_EQ(show("sessions").at(0).at("ImportTyp"), 3);
 }
 

@@ -22,9 +22,9 @@ TEST_F(ImportCommandTest, RecordsReachTheStore) {
 
     EXPECT_EQ(show(), Json::parse(R"([
         {"Datum":"2004-02-01","Betrag":-650.0,"Empfaenger":"Müller","Verwendungszweck":"","Buchungstext":"",
-         "Kategorie":"","Unterkategorie":"","ImportID":1,"UniqueID":1},
+         "Kategorie":"","Unterkategorie":"","ImportID":1,"UniqueID":1,"Zeile":2,"Geaendert":null},
         {"Datum":"2004-02-05","Betrag":2500.1,"Empfaenger":"Lohn €","Verwendungszweck":"","Buchungstext":"",
-         "Kategorie":"","Unterkategorie":"","ImportID":1,"UniqueID":2}])"));
+         "Kategorie":"","Unterkategorie":"","ImportID":1,"UniqueID":2,"Zeile":4,"Geaendert":null}])"));
     const Json session = show("sessions").at(0);
     EXPECT_EQ(session.at("ImportID"), 1);
     EXPECT_EQ(session.at("ImportTyp"), 1);
@@ -184,7 +184,7 @@ TEST_F(ImportCommandTest, LocaleOfTheEnvironmentChangesNothing) {
     write("a.csv", "01.02.2004;A;1.234,50\n05.02.2004;B;-0,05\n");
     for (const char* locale : {"C", "de_DE.UTF-8", "fr_FR.UTF-8", "tr_TR.UTF-8"}) {
         ChildProgram program =
-            this->program({"import", "a.csv", "--columns", kColumns, "--delimiter", ";", "--store", "l.db"});
+            this->program({"import", "a.csv", "--columns", kColumns, "--delimiter", ";", "--again", "--store", "l.db"});
         for (const char* name : {"LC_ALL", "LANG", "LC_NUMERIC"})
             program.environment[name] = locale;
         if (const char* locales = std::getenv("LOCPATH"))

@@ -54,8 +54,8 @@ TEST_F(SeveralFilesTest, EachFileHasItsSummary) {
 TEST_F(SeveralFilesTest, DateOrderIsLearnedAfreshForEachFile) {
     write("us.csv", "12/31/2004;A;1\n");
     write("de.csv", "31.12.2004;A;1\n");
-    const Result result = run({"import", "us.csv", "de.csv", "us.csv", "--store", kStore, "--verbatim", "--columns",
-                               "0=Datum,1=Empfaenger,2=Betrag", "--delimiter", ";"});
+    const Result result = run({"import", "us.csv", "de.csv", "us.csv", "--again", "--store", kStore, "--verbatim",
+                               "--columns", "0=Datum,1=Empfaenger,2=Betrag", "--delimiter", ";"});
     EXPECT_EQ(result.status, 0) << result.messages;
     for (const Json& row : show())
         EXPECT_EQ(row.at("Datum"), "2004-12-31");

@@ -64,11 +64,11 @@ TEST_F(ShowCommandTest, AmountsInJsonAreTheShortestThatReadBack) {
         result.output,
         R"({"dataSets":[)"
         "\n"
-        R"({"Datum":"2004-02-01","Betrag":-1650.0,"Empfaenger":"Müller","Verwendungszweck":"Miete","Buchungstext":"","Kategorie":"","Unterkategorie":"","ImportID":1,"UniqueID":1},)"
+        R"({"Datum":"2004-02-01","Betrag":-1650.0,"Empfaenger":"Müller","Verwendungszweck":"Miete","Buchungstext":"","Kategorie":"","Unterkategorie":"","ImportID":1,"UniqueID":1,"Zeile":1,"Geaendert":null},)"
         "\n"
-        R"({"Datum":"2004-02-05","Betrag":2500.1,"Empfaenger":"Lohn","Verwendungszweck":"","Buchungstext":"","Kategorie":"","Unterkategorie":"","ImportID":1,"UniqueID":2},)"
+        R"({"Datum":"2004-02-05","Betrag":2500.1,"Empfaenger":"Lohn","Verwendungszweck":"","Buchungstext":"","Kategorie":"","Unterkategorie":"","ImportID":1,"UniqueID":2,"Zeile":2,"Geaendert":null},)"
         "\n"
-        R"({"Datum":"2004-02-06","Betrag":0.1,"Empfaenger":"","Verwendungszweck":"x","Buchungstext":"","Kategorie":"","Unterkategorie":"","ImportID":1,"UniqueID":3})"
+        R"({"Datum":"2004-02-06","Betrag":0.1,"Empfaenger":"","Verwendungszweck":"x","Buchungstext":"","Kategorie":"","Unterkategorie":"","ImportID":1,"UniqueID":3,"Zeile":3,"Geaendert":null})"
         "\n"
         "]}\n");
 }

@@ -54,7 +54,9 @@ TEST(FinanceSchema, RecordsOfFileImportsMayBeUndated) {
                        {"Datum", kDate, true},
                        {"Betrag", kCurrency},
                        {"ImportID", kInteger},
-                       {"UniqueID", kInteger}});
+                       {"UniqueID", kInteger},
+                       {"Zeile", kInteger},
+                       {"Geaendert", kBoolean}});
     EXPECT_TRUE(row.tables().empty());
 }
 
@@ -65,7 +67,15 @@ TEST(FinanceSchema, SessionsAreDated) {
                        {"ImportInfo", kString},
                        {"ImportID", kInteger},
                        {"ImportTyp", kInteger},
-                       {"ImportFileName", kString}});
+                       {"ImportFileName", kString},
+                       {"Pruefsumme", kString},
+                       {"Datensaetze", kInteger},
+                       {"Abgelehnt", kInteger},
+                       {"Bekannt", kInteger},
+                       {"Summe", kCurrency},
+                       {"ErsterTag", kDate},
+                       {"LetzterTag", kDate},
+                       {"Zurueckgenommen", kBoolean}});
     EXPECT_TRUE(row.tables().empty());
 }
 

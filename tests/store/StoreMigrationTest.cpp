@@ -61,7 +61,7 @@ TEST_F(StoreMigrationSteps, OlderStoreIsBroughtUpToDateWithItsRecords) {
         database.commit();
     }
     Sql sql(m_file);
-    EXPECT_EQ("2", sql.value("PRAGMA user_version"));
+    EXPECT_EQ("3", sql.value("PRAGMA user_version"));
     EXPECT_EQ((std::vector<std::string>{"1|EUR", "2|EUR", "3|EUR"}),
               sql.rows("SELECT UniqueID, Waehrung FROM DataSets ORDER BY id"));
     EXPECT_EQ("store-newer-version", storeErrorCodeOf([&] { Store::open(m_file, Store::Access::readWrite); }));
@@ -72,7 +72,7 @@ TEST_F(StoreMigrationSteps, NewStoreOfALaterReleaseGoesThroughAllSteps) {
         StoreDatabase database = LaterRelease(kAddColumn).open(m_folder / "neu.db", StoreAccess::readWrite);
         database.commit();
     }
-    EXPECT_EQ("2", Sql(m_folder / "neu.db").value("PRAGMA user_version"));
+    EXPECT_EQ("3", Sql(m_folder / "neu.db").value("PRAGMA user_version"));
     EXPECT_EQ(
         "1",
         Sql(m_folder / "neu.db").value("SELECT count(*) FROM pragma_table_info('DataSets') WHERE name = 'Waehrung'"));
@@ -87,7 +87,7 @@ TEST_F(StoreMigrationSteps, StepIsDoneOnce) {
 
 TEST_F(StoreMigrationSteps, StepThatIsNotCommittedLeavesTheOldVersion) {
     { StoreDatabase database = LaterRelease(kAddColumn).open(m_file, StoreAccess::readWrite); }
-    EXPECT_EQ("1", Sql(m_file).value("PRAGMA user_version"));
+    EXPECT_EQ("2", Sql(m_file).value("PRAGMA user_version"));
     Store store = Store::open(m_file, Store::Access::readOnly);
     EXPECT_EQ((std::vector<int>{1, 2, 3}), recordNumbers(store.model()));
 }
@@ -101,8 +101,8 @@ TEST_F(StoreMigrationSteps, StepThatFailsLeavesTheStoreAsItWas) {
 
 TEST_F(StoreMigrationSteps, ReaderBringsAnOlderStoreUpToDate) {
     StoreDatabase database = LaterRelease(kAddColumn).open(m_file, StoreAccess::readOnly);
-    EXPECT_EQ(2, database.connection().number("PRAGMA user_version"));
-    EXPECT_EQ("2", Sql(m_file).value("PRAGMA user_version"));
+    EXPECT_EQ(3, database.connection().number("PRAGMA user_version"));
+    EXPECT_EQ("3", Sql(m_file).value("PRAGMA user_version"));
 }
 
 TEST_F(StoreMigrationSteps, ReaderWhoMayNotWriteSaysWhatIsMissing) {
@@ -120,7 +120,7 @@ TEST_F(StoreMigrationSteps, ReaderWhoMayNotWriteSaysWhatIsMissing) {
         return 3;
     });
     EXPECT_EQ(0, child.wait());
-    EXPECT_EQ("1", Sql(m_file).value("PRAGMA user_version"));
+    EXPECT_EQ("2", Sql(m_file).value("PRAGMA user_version"));
 }
 
 TEST_F(StoreMigrationSteps, VersionThatBecomesNewerBetweenTwoTransactionsIsRefused) {

@@ -60,7 +60,7 @@ TEST_F(StoreSchema, TableWithoutANameInTheFileIsRefused) {
 
 TEST_F(StoreSchema, FileSaysWhatItIs) {
     EXPECT_EQ("1145913905", Sql(m_file).value("PRAGMA application_id")); // "DMB1"
-    EXPECT_EQ("1", Sql(m_file).value("PRAGMA user_version"));
+    EXPECT_EQ("2", Sql(m_file).value("PRAGMA user_version"));
     EXPECT_EQ("ok", Sql(m_file).value("PRAGMA integrity_check"));
 }
 

@@ -318,7 +318,7 @@ TEST_F(StoreTransaction, StoreCanBeMoved) {
 
 TEST_F(StoreTransaction, CommitWithoutChangesMakesTheStore) {
     { open().commit(); }
-    EXPECT_EQ("1", Sql(m_file).value("PRAGMA user_version"));
+    EXPECT_EQ("2", Sql(m_file).value("PRAGMA user_version"));
 }
 
 TEST_F(StoreTransaction, StoreThatNeverCommittedLeavesNoFile) {

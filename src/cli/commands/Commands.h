@@ -11,4 +11,5 @@ extern const Command kImportCommand;
 extern const Command kAccountsCommand;
 extern const Command kBookingsCommand;
 extern const Command kShowCommand;
+extern const Command kUndoCommand;
 extern const Command kProfilesCommand;

@@ -37,7 +37,7 @@ class View {
 public:
     View(const ShowTable& table, RecordNode& root, std::size_t limit)
         : m_table(table), m_spec(table.rowSpec(root)), m_order(ShowTables::fieldOrder(table, m_spec)),
-          m_rows(table.rows(root, limit, m_total)) {}
+          m_shown(ShowTables::fieldsForPeople(table, m_spec)), m_rows(table.rows(root, limit, m_total)) {}
 
     void writeJson(Console& console) const {
         JsonRows rows(console, std::string("{\"") + m_table.jsonKey + "\":");
@@ -87,7 +87,7 @@ private:
             for (const char* name : kAccountFields)
                 columns.push_back({name, Kind::fixed});
         }
-        for (const std::size_t field : m_order) {
+        for (const std::size_t field : m_shown) {
             const FieldSpec& spec = m_spec.fields()[field];
             Kind kind = Kind::fixed;
             if (spec.kind == DataType::eString)
@@ -107,14 +107,15 @@ private:
             for (const char* name : kAccountFields)
                 cells.push_back(FieldText::display(ModelTables::field(*row.account, name)));
         }
-        for (const std::size_t field : m_order)
+        for (const std::size_t field : m_shown)
             cells.push_back(FieldText::display(row.record->fields()[field]));
         return cells;
     }
 
     const ShowTable& m_table;
     const RecordSpec& m_spec;
-    std::vector<std::size_t> m_order;
+    std::vector<std::size_t> m_order; // of the JSON
+    std::vector<std::size_t> m_shown; // of the table
     std::size_t m_total = 0;
     std::vector<ShownRow> m_rows;
 };

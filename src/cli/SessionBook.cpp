@@ -1,0 +1,106 @@
+// SPDX-FileCopyrightText: 2026 The ImportModule authors
+// SPDX-License-Identifier: MIT
+#include "cli/SessionBook.h"
+
+#include <cmath>
+#include <cstdint>
+#include <tuple>
+
+#include "cli/FieldText.h"
+#include "cli/ModelTables.h"
+#include "datamodel/DataModel.h"
+
+namespace {
+
+constexpr double kHundredths = 100.0;
+
+void set(RecordNode& record, const char* field, const DataType& value) {
+    ModelTables::field(record, field).setValue(value, NDX(), 0);
+}
+
+DataType number(std::size_t value) { return DataType::makeInteger(static_cast<std::int32_t>(value)); }
+
+template <typename Value>
+DataType valueOf(const Value& value) {
+    DataType data;
+    data = value;
+    return data;
+}
+
+bool isBefore(const DMDate& a, const DMDate& b) {
+    return std::tuple(a.year(), a.month(), a.day()) < std::tuple(b.year(), b.month(), b.day());
+}
+
+/// Sums in hundredths, so that 65,000 amounts leave no crumbs.
+class Totals {
+public:
+    void add(RecordNode& record) {
+        const FieldNode& amount = ModelTables::field(record, "Betrag");
+        if (amount.kind() == DataType::eCurrency)
+            m_hundredths += std::llround(amount.getValue().getCurrency() * kHundredths);
+        const FieldNode& date = ModelTables::field(record, "Datum");
+        if (date.kind() != DataType::eDate)
+            return;
+        const DMDate day = date.getValue().getDate();
+        if (day.isZero())
+            return;
+        if (m_first.isZero() || isBefore(day, m_first))
+            m_first = day;
+        if (m_last.isZero() || isBefore(m_last, day))
+            m_last = day;
+    }
+
+    double sum() const { return static_cast<double>(m_hundredths) / kHundredths; }
+    const DMDate& first() const { return m_first; }
+    const DMDate& last() const { return m_last; }
+
+private:
+    std::int64_t m_hundredths = 0;
+    DMDate m_first;
+    DMDate m_last;
+};
+
+} // namespace
+
+namespace SessionBook {
+
+std::optional<Session> find(DataManager& model, const std::string& checksum) {
+    TableNode& sessions = ModelTables::table(model.model().root(), "Importsessions");
+    for (unsigned number = sessions.getNodeCount(); number > 0; --number) {
+        RecordNode* session = sessions.row(number);
+        if (session == nullptr || ModelTables::field(*session, "Pruefsumme").text() != checksum ||
+            ModelTables::field(*session, "Zurueckgenommen").getValue().getBoolean())
+            continue;
+        return Session{ModelTables::field(*session, "ImportID").getValue().getInt(),
+                       FieldText::display(ModelTables::field(*session, "ImportDatum")),
+                       FieldText::display(ModelTables::field(*session, "ImportFileName"))};
+    }
+    return std::nullopt;
+}
+
+void keepLines(const NewRecords& added, const std::vector<std::size_t>& lines) {
+    const std::vector<RecordNode*> rows = added.rows();
+    for (std::size_t i = 0; i < rows.size() && i < lines.size(); ++i)
+        set(*rows[i], "Zeile", number(lines[i]));
+}
+
+void keepSession(const NewRecords& added, const Facts& facts) {
+    RecordNode* session = added.session();
+    if (session == nullptr)
+        return;
+    Totals totals;
+    const std::vector<RecordNode*> rows = added.rows();
+    for (RecordNode* row : rows)
+        totals.add(*row);
+    set(*session, "Pruefsumme", valueOf(facts.checksum.c_str()));
+    set(*session, "Datensaetze", number(rows.size()));
+    set(*session, "Abgelehnt", number(facts.refused));
+    set(*session, "Bekannt", number(facts.known));
+    set(*session, "Summe", DataType::makeCurrency(totals.sum()));
+    if (!totals.first().isZero()) {
+        set(*session, "ErsterTag", valueOf(totals.first()));
+        set(*session, "LetzterTag", valueOf(totals.last()));
+    }
+}
+
+} // namespace SessionBook
