@@ -48,10 +48,16 @@ class Search {
 public:
     Search(const RecordTable& table, const ColumnChoice& choice, const TablePlan& plan) : m_plan(plan) {
         std::vector<std::size_t> bookings;
+        std::vector<Day> days;
         for (std::size_t i = plan.region.begin; i < plan.region.end; ++i) {
-            if (DateCells::read(table.cell(i, plan.roles.date)))
-                bookings.push_back(i);
+            const auto date = DateCells::read(table.cell(i, plan.roles.date));
+            if (!date)
+                continue;
+            bookings.push_back(i);
+            if (const auto day = date->day(plan.dateOrder, plan.centuryWindow))
+                days.push_back(*day);
         }
+        m_newestFirst = BalanceChain::orderOf(days);
         for (int c = 0; c < static_cast<int>(choice.profiles.size()) && m_columns.size() < kMaxColumns; ++c) {
             const ColumnProfile& profile = choice.profiles[static_cast<std::size_t>(c)];
             if (c == plan.roles.date || !profile.isAmount() || profile.isDate())
@@ -127,11 +133,11 @@ private:
         return std::any_of(amounts.begin(), amounts.end(), [](const Money& amount) { return !amount.isZero(); });
     }
 
-    static BalanceChain chainOf(const std::vector<Money>& amounts, const Column& balance) {
+    BalanceChain chainOf(const std::vector<Money>& amounts, const Column& balance) const {
         std::vector<BalanceChain::Link> links;
         for (std::size_t i = 0; i < amounts.size(); ++i)
             links.push_back({amounts[i], *balance.values[i], 0});
-        return BalanceChain::follow(links);
+        return BalanceChain::follow(links, m_newestFirst);
     }
 
     void trySingle(const Column& amount, const Column& balance, bool sizesOnly) {
@@ -143,8 +149,21 @@ private:
         const BalanceChain chain = chainOf(amounts, balance);
         const bool fits = sizesOnly ? chain.steps >= kStepsOfSizes && chain.fittingSizes == chain.steps
                                     : chain.steps >= kStepsOfAmount && chain.holds();
-        if (fits && moves(amounts))
+        if (fits && moves(amounts) && !leavesOut(amounts, amount, balance))
             m_found.push_back({amount.index, -1, -1, balance.index, -1, std::move(amounts)});
+    }
+
+    /// Nothing moves here, but something does in another column: the other one of debit and credit.
+    bool leavesOut(const std::vector<Money>& amounts, const Column& amount, const Column& balance) const {
+        return std::any_of(m_columns.begin(), m_columns.end(), [&](const Column& other) {
+            if (other.index == amount.index || other.index == balance.index)
+                return false;
+            for (std::size_t i = 0; i < amounts.size(); ++i) {
+                if (amounts[i].isZero() && other.values[i] && !other.values[i]->isZero())
+                    return true;
+            }
+            return false;
+        });
     }
 
     void tryMarked(const Column& amount, const SignMarks& marks, const Column& balance) {
@@ -181,6 +200,7 @@ private:
     const TablePlan& m_plan;
     std::vector<Column> m_columns;
     std::vector<SignMarks> m_marks;
+    std::optional<bool> m_newestFirst;
     std::vector<Solution> m_found;
 };
 

@@ -3,6 +3,7 @@
 #include "intake/AmountColumns.h"
 
 #include <algorithm>
+#include <cstdlib>
 
 #include "intake/TextTools.h"
 
@@ -55,10 +56,43 @@ private:
         } else if (debit >= 0 || credit >= 0) {
             m_roles.debit = m_survey.take(debit);
             m_roles.credit = credit == debit ? -1 : m_survey.take(credit);
+            findOtherSide();
         }
         if (m_roles.amount < 0 && !m_roles.twoAmounts())
             m_roles.amount = m_survey.take(namedButDamaged());
         m_choice.amountByName = m_roles.amount >= 0 || m_roles.twoAmounts();
+    }
+
+    /// Where only one of debit and credit has a name that is known, the other one
+    /// is the column that is filled where it is not.
+    void findOtherSide() {
+        const int known = std::max(m_roles.debit, m_roles.credit);
+        if (m_roles.debit >= 0 && m_roles.credit >= 0)
+            return;
+        const int other = m_survey.take(m_survey.best(
+            0, [&](int c) { return 1000 - std::abs(c - known); },
+            [&](int c) { return m_survey.isMoney(c) && !m_survey.ignored(c, Role::amount) && completes(known, c); }));
+        (m_roles.debit < 0 ? m_roles.debit : m_roles.credit) = other;
+    }
+
+    /// Whether one of the two holds an amount in nearly every record, never both.
+    bool completes(int left, int right) const {
+        int any = 0;
+        int rightOnly = 0;
+        for (const std::size_t record : m_survey.records()) {
+            const bool l = moves(record, left);
+            const bool r = moves(record, right);
+            if (l && r)
+                return false;
+            any += l || r ? 1 : 0;
+            rightOnly += r ? 1 : 0;
+        }
+        return rightOnly > 0 && any * 10 >= static_cast<int>(m_survey.records().size()) * 9;
+    }
+
+    bool moves(std::size_t record, int column) const {
+        const auto amount = m_survey.amount(record, column);
+        return amount && !amount->isZero();
     }
 
     /// A column that is surely called the amount, and where few are: what is no
@@ -82,10 +116,36 @@ private:
             column = m_survey.best(
                 0, [&](int c) { return profile(c).marked > 0 && score(c, Role::ignore) == 0 ? 1 : 0; }, isMoney);
         for (int c = 0; c < m_survey.columns(); ++c) {
-            if (c != column && m_survey.free(c) && isMoney(c) && likely(c) > 2)
+            if (c != column && m_survey.free(c) && isMoney(c) &&
+                (likely(c) > 2 || isOtherSide(column, c) || couldAsWellBeIt(c)))
+                m_choice.rivalAmounts.push_back(c);
+        }
+        for (const int c : {column - 1, column + 1}) {
+            if (isEmptyOtherSide(column, c))
                 m_choice.rivalAmounts.push_back(c);
         }
         m_roles.amount = m_survey.take(column);
+    }
+
+    /// Without names every full column in which decimals occur could be the amount as well.
+    bool couldAsWellBeIt(int other) const {
+        const ColumnProfile& p = profile(other);
+        return !m_survey.hasHeader() && p.marked > 0 && p.filled * 2 >= p.rows && p.zeros < p.filled && !p.isCode();
+    }
+
+    /// Debit and credit without a name that tells which is which.
+    bool isOtherSide(int column, int other) const {
+        if (column < 0 || m_survey.score(other, Role::ignore) > 0)
+            return false;
+        const bool nothing = profile(other).zeros == profile(other).filled && profile(column).signs == 0;
+        return completes(column, other) || nothing;
+    }
+
+    /// Amounts without any sign and an empty column beside them, neither with a
+    /// name: perhaps a statement on which only one of debit and credit occurs.
+    bool isEmptyOtherSide(int column, int other) const {
+        return column >= 0 && other >= 0 && other < m_survey.columns() && !m_survey.hasHeader() &&
+               profile(column).signs == 0 && profile(column).rows > 1 && profile(other).filled == 0;
     }
 
     /// Of gross, fee and net, net moves the account; of net, tax and gross, gross does.
@@ -167,12 +227,8 @@ private:
         int both = 0;
         int any = 0;
         for (const std::size_t record : m_survey.records()) {
-            const auto filled = [&](int column) {
-                const auto amount = m_survey.amount(record, column);
-                return amount && !amount->isZero();
-            };
-            const bool d = filled(debit);
-            const bool c = filled(credit);
+            const bool d = moves(record, debit);
+            const bool c = moves(record, credit);
             both += d && c ? 1 : 0;
             any += d || c ? 1 : 0;
         }
@@ -190,7 +246,9 @@ private:
         m_roles.sign = m_survey.take(m_survey.best(0, closeness, [&](int c) {
             const ColumnProfile& p = profile(c);
             // Words that are all of one kind are a mark only where a mark is expected.
-            const bool expected = score(c, Role::sign) > 0 || (p.averageLength() <= 2.0 && distance(c) <= 2);
+            const bool word = p.minusWords > 0 && p.averageLength() > 3.0; // "Cargo", "Belastung"
+            const bool expected =
+                score(c, Role::sign) > 0 || (distance(c) <= (word ? 3 : 2) && (word || p.averageLength() <= 2.0));
             return p.isSignColumn() && (expected || (p.minusWords > 0 && p.plusWords > 0));
         }));
     }

@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "intake/BalanceChain.h"
 
+#include <algorithm>
+
 namespace {
 
 BalanceChain followIn(const std::vector<BalanceChain::Link>& links, bool newestFirst) {
@@ -23,10 +25,19 @@ BalanceChain followIn(const std::vector<BalanceChain::Link>& links, bool newestF
 
 } // namespace
 
-BalanceChain BalanceChain::follow(const std::vector<Link>& links) {
+BalanceChain BalanceChain::follow(const std::vector<Link>& links, std::optional<bool> newestFirst) {
+    if (newestFirst)
+        return followIn(links, *newestFirst);
     const BalanceChain up = followIn(links, false);
     const BalanceChain down = followIn(links, true);
+    // Without signs, a link fits in the wrong direction by chance rather than in the right one.
     const bool downIsBetter =
-        down.fitting != up.fitting ? down.fitting > up.fitting : down.fittingSizes > up.fittingSizes;
+        down.fittingSizes != up.fittingSizes ? down.fittingSizes > up.fittingSizes : down.fitting > up.fitting;
     return downIsBetter ? down : up;
+}
+
+std::optional<bool> BalanceChain::orderOf(const std::vector<Day>& days) {
+    const bool up = std::is_sorted(days.begin(), days.end());
+    const bool down = std::is_sorted(days.rbegin(), days.rend());
+    return up != down ? std::optional(down) : std::nullopt;
 }

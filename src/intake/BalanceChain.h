@@ -2,8 +2,10 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <optional>
 #include <vector>
 
+#include "intake/Day.h"
 #include "intake/Money.h"
 
 /// How amounts and balances follow one another: balance before plus amount is
@@ -23,5 +25,8 @@ struct BalanceChain {
 
     bool holds() const { return steps > 0 && fitting == steps; }
 
-    static BalanceChain follow(const std::vector<Link>& links);
+    /// `newestFirst` where the days of the bookings tell; otherwise the better of both.
+    static BalanceChain follow(const std::vector<Link>& links, std::optional<bool> newestFirst = std::nullopt);
+    /// What days in the order of the file tell; nothing where they go up and down, or not at all.
+    static std::optional<bool> orderOf(const std::vector<Day>& days);
 };

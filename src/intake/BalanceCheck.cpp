@@ -14,8 +14,8 @@ namespace {
 /// A chain of balances is believed when hardly any link is broken.
 constexpr int kBreaksInAHundred = 5;
 
-BalanceCheck checkRunningColumn(const std::vector<BalanceChain::Link>& links) {
-    const BalanceChain chain = BalanceChain::follow(links);
+BalanceCheck checkRunningColumn(const std::vector<BalanceChain::Link>& links, const std::vector<Day>& days) {
+    const BalanceChain chain = BalanceChain::follow(links, BalanceChain::orderOf(days));
     BalanceCheck result;
     result.runningColumn = true;
     result.newestFirst = chain.newestFirst;
@@ -30,6 +30,8 @@ BalanceCheck checkRunningColumn(const std::vector<BalanceChain::Link>& links) {
     } else if (chain.fitting * 2 > chain.steps) {
         result.proof = BalanceProof::broken;
         result.breaks = chain.breaks;
+    } else {
+        result.signsContradict = chain.steps > 0 && chain.fittingSizes * 2 > chain.steps;
     }
     return result;
 }
@@ -138,6 +140,7 @@ namespace BalanceChecks {
 
 BalanceCheck check(const RecordTable& table, const TablePlan& plan, const std::vector<BookingRow>& rows) {
     std::vector<BalanceChain::Link> links;
+    std::vector<Day> days;
     Money sum;
     std::optional<std::size_t> first;
     std::size_t last = plan.region.begin;
@@ -149,11 +152,13 @@ BalanceCheck check(const RecordTable& table, const TablePlan& plan, const std::v
         first = first.value_or(record);
         last = record;
         sum = sum + *row.amount;
-        if (row.balance)
-            links.push_back({*row.amount, *row.balance, table.record(record).firstLine + 1});
+        if (!row.balance)
+            continue;
+        links.push_back({*row.amount, *row.balance, table.record(record).firstLine + 1});
+        days.push_back(*row.day);
     }
     if (plan.roles.balance >= 0)
-        return links.size() >= 2 ? checkRunningColumn(links) : BalanceCheck{};
+        return links.size() >= 2 ? checkRunningColumn(links, days) : BalanceCheck{};
     return first ? checkEnds(Ends(table, plan, *first, last), sum) : BalanceCheck{};
 }
 

@@ -14,6 +14,7 @@ struct BalanceCheck {
     bool newestFirst = false;
     bool runningColumn = false;    ///< checked booking by booking; otherwise opening against closing balance
     bool signsFromBalance = false; ///< the sizes fit, the signs only as the balance has them
+    bool signsContradict = false;  ///< most sizes fit, most signs do not
     bool signsInverted = false;    ///< opening and closing balance fit when every sign is turned
     int steps = 0;                 ///< checked
     int fitting = 0;

@@ -51,6 +51,7 @@ void count(ColumnProfile& profile, std::string_view raw) {
             amount->marked || amount->currency || amount->sign != AmountCell::Sign::none || (dot && dot->marked);
         profile.marked += sure ? 1 : 0;
         profile.negative += amount->sign == AmountCell::Sign::minus && !amount->magnitude.isZero() ? 1 : 0;
+        profile.signs += amount->sign != AmountCell::Sign::none ? 1 : 0;
         profile.zeros += amount->magnitude.isZero() ? 1 : 0;
     }
     profile.wordsOnly += std::none_of(text.begin(), text.end(), TextTools::isDigit) ? 1 : 0;

@@ -19,6 +19,7 @@ struct ColumnProfile {
     int dotAmounts = 0;
     int marked = 0; ///< amounts with a decimal mark, a currency or a sign
     int negative = 0;
+    int signs = 0;          ///< amounts with a sign, be it a plus
     int zeros = 0;          ///< amounts of nothing
     int wordsOnly = 0;      ///< no digit in them
     int minusWords = 0;     ///< marks for debit

@@ -98,7 +98,7 @@ public:
             return decided(DateOrder::dayMonthYear, first, "Mit Punkten geschriebene Daten nennen den Tag zuerst.");
         if (const auto other = fromOtherDates(orders))
             return *other;
-        if (dayFirst && m_plan.decimalMark == ',')
+        if (dayFirst && m_plan.markIsProven && m_plan.decimalMark == ',')
             return decided(DateOrder::dayMonthYear, first,
                            "Wo ein Komma die Dezimalstellen abtrennt, steht der Tag vor dem Monat.");
         if (const auto sequence = fromSequence(orders))

@@ -60,6 +60,7 @@ QifForms::QifForms(const QifFile& qif, const PhysicalLines& file, const Inspecti
     if (!decideMark(samples))
         return;
     samples.plan.decimalMark = m_mark;
+    samples.plan.markIsProven = m_markIsProven;
     if (decideOrder(samples))
         findMonthFirst(samples);
 }
@@ -67,12 +68,14 @@ QifForms::QifForms(const QifFile& qif, const PhysicalLines& file, const Inspecti
 bool QifForms::decideMark(const Samples& samples) {
     if (m_options.decimalMark) {
         m_mark = *m_options.decimalMark;
+        m_markIsProven = true;
         return true;
     }
     const DecimalMarkDecision decision = DecimalMarks::decide(samples.table, samples.plan);
     if (decision.mark) {
         m_mark = *decision.mark;
         m_thousandths = decision.thousandths;
+        m_markIsProven = decision.reason.line > 0;
         m_reasons.push_back(samples.placed(decision.reason));
     } else if (!decision.example.empty()) {
         m_undecided = Messages::make(MessageId::decimalMarkAmbiguous, samples.line(decision.exampleLine),

@@ -40,6 +40,7 @@ private:
 
     InspectionOptions m_options;
     char m_mark = '.';
+    bool m_markIsProven = false;
     bool m_thousandths = false; ///< "1,250" has three decimals
     std::optional<DateOrder> m_order;
     bool m_orderIsGuessed = false;

@@ -59,8 +59,12 @@ public:
         if (check.proof == BalanceProof::none && !columnsByUser)
             check = followBalance(check);
         applyBalance(check);
-        if (check.proof == BalanceProof::none && m_plan.sign == SignRule::asWritten && !columnsByUser)
-            decideByWords();
+        if (check.proof == BalanceProof::none && m_plan.sign == SignRule::asWritten && !columnsByUser) {
+            if (check.signsContradict)
+                m_decision.undecided = Messages::make(MessageId::signAmbiguous, headerLine());
+            else
+                decideByWords();
+        }
         doubtMissingSigns(check);
         m_plan.balance = check.proof;
         m_plan.newestFirst = check.newestFirst;

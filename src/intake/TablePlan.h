@@ -32,7 +32,8 @@ struct TablePlan {
     std::optional<Day> lastDay;
     char decimalMark = ',';
     bool markByUser = false;
-    bool thousandths = false; ///< "1,250" has three decimals: the column proves it
+    bool markIsProven = false; ///< by the user or by amounts that have decimals
+    bool thousandths = false;  ///< "1,250" has three decimals: the column proves it
     SignRule sign = SignRule::asWritten;
     bool debitIsNegative = false;  ///< of two columns: the debits carry their minus
     bool creditIsNegative = false; ///< and the credits do, as what lowers a debt

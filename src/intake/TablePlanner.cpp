@@ -125,6 +125,7 @@ bool TablePlanner::decideMark(TablePlan& plan) {
     if (m_options.decimalMark) {
         plan.decimalMark = *m_options.decimalMark;
         plan.markByUser = true;
+        plan.markIsProven = true;
         return true;
     }
     const DecimalMarkDecision decision = DecimalMarks::decide(m_table, plan);
@@ -136,6 +137,7 @@ bool TablePlanner::decideMark(TablePlan& plan) {
     }
     plan.decimalMark = *decision.mark;
     plan.thousandths = decision.thousandths;
+    plan.markIsProven = decision.reason.line > 0;
     m_plan.reasons.push_back(decision.reason);
     return true;
 }

@@ -83,6 +83,18 @@ TEST(BalanceProof, ChoosesTheMarksOfAFileWithoutHeader) {
     EXPECT_THAT(file.datesAndAmounts(), ElementsAre("13.02.2024 -500,00", "14.02.2024 1.500,00", "15.02.2024 -1,00"));
 }
 
+TEST(BalanceProof, DaysTellTheDirectionWhereEqualAmountsFitBoth) {
+    const FileReading file("Datum;Text;Betrag;Saldo\n"
+                           "02.01.2024;a;33,30;966,70\n04.01.2024;b;33,30;933,40\n05.01.2024;c;33,30;900,10\n");
+    EXPECT_THAT(file.datesAndAmounts(), ElementsAre("04.01.2024 -33,30", "05.01.2024 -33,30"));
+    EXPECT_THAT(file.messages(), ElementsAre("sign-unknown@2"));
+}
+
+TEST(BalanceProof, ContradictsSignsThatNothingElseTells) {
+    const FileReading file("Datum;Text;Betrag;Saldo\n02.01.2024;a;33,30;966,70\n04.01.2024;b;12,00;954,70\n");
+    EXPECT_EQ(file.undecided(), "sign-ambiguous");
+}
+
 TEST(BalanceProof, TurnsASignThatIsTheBanks) {
     const FileReading file("Anfangssaldo;1.000,00\nEndsaldo;2.000,00\n"
                            "Datum;Text;Betrag\n13.02.2024;a;500,00\n14.02.2024;b;-1.500,00\n");

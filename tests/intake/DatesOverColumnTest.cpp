@@ -75,6 +75,13 @@ TEST(DatesOverColumn, UndecidableOrderIsNotGuessed) {
     EXPECT_THAT(file.records(), IsEmpty());
 }
 
+TEST(DatesOverColumn, WholeAmountsSayNothingOfTheOrder) {
+    EXPECT_EQ(FileReading("Date;Payee;Amount\n03/04/2024;a;-7\n").undecided(), "date-order-ambiguous");
+    EXPECT_THAT(FileReading("Date;Payee;Amount\n03/04/2024;a;-7,00\n").datesAndAmounts(),
+                ElementsAre("03.04.2024 -7,00"))
+        << "where a comma marks decimals, the day stands in front";
+}
+
 TEST(DatesOverColumn, UserDecidesTheOrder) {
     InspectionOptions options;
     options.dateOrder = DateOrder::monthDayYear;

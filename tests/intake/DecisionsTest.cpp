@@ -71,6 +71,7 @@ TEST(DateOrderDecision, WholeColumnDecides) {
         const Cells cells(c.text);
         TablePlan plan = planOf(cells);
         plan.decimalMark = c.mark;
+        plan.markIsProven = true;
         const DateOrderDecision decision = DateOrders::decide(cells.table(), plan);
         EXPECT_EQ(decision.order, c.order) << c.text << c.why;
         EXPECT_EQ(decision.proven, c.proven) << c.text << c.why;

@@ -31,7 +31,7 @@ TEST(QifFiles, OfAnySystemAndEncodingAreRead) {
                                     replaced(kText, "!Type:Bank", "!type:bank ")}) {
         const FileReading file = qif(text);
         EXPECT_THAT(file.bookings(), kBookings);
-        EXPECT_EQ(file.lines(), "HRIIIIRIIII");
+        EXPECT_EQ(file.lines(), "HRRRRRRRRRR");
         EXPECT_THAT(file.messages(), IsEmpty());
         EXPECT_EQ(file.intake().recordsFound, 2);
     }
@@ -105,7 +105,7 @@ TEST(QifFiles, RecordThatWouldBeRefusedIsTakenOutWithItsLines) {
     EXPECT_THAT(file.messages(), ElementsAre("bad-date@6", "bad-amount@11"));
     EXPECT_EQ(file.refused(), 2);
     EXPECT_EQ(file.intake().recordsFound, 4);
-    EXPECT_EQ(file.lines(), "HRIIIRIIIRIIIRIII");
+    EXPECT_EQ(file.lines(), "HRRRRRRRRRRRRRRRR");
 }
 
 TEST(QifFiles, RecordWithoutEndInTheMiddleIsNotMixedWithTheNext) {

@@ -56,6 +56,20 @@ TEST(SignsOverColumn, StandWhereTheFileHasThem) {
     }
 }
 
+TEST(SignsOverColumn, UnknownNameBesideAKnownOneIsTheOtherSide) {
+    const FileReading file("Datum;Text;Soll;Xyzzy\n13.02.2024;a;500,00;0,00\n14.02.2024;b;0,00;1500,00\n");
+    EXPECT_THAT(file.datesAndAmounts(), kOutAndIn);
+}
+
+TEST(SignsOverColumn, TwoColumnsWithoutNamesAreNotGuessed) {
+    for (const std::string_view text : {"13.02.2024;Text a;500,00;\n14.02.2024;Text b;;1500,00\n",
+                                        "13.02.2024;Text a;500,00;\n14.02.2024;Text b;1,00;\n",
+                                        "13.02.2024;Text a;500,00;0,00\n14.02.2024;Text b;0,00;1500,00\n"}) {
+        const FileReading file(text);
+        EXPECT_EQ(file.undecided(), "amount-column-ambiguous") << text;
+    }
+}
+
 TEST(SignsOverColumn, ReturnedDebitStaysOne) {
     const FileReading file("Datum;Text;Soll;Haben\n"
                            "13.02.2024;a;-500,00;\n14.02.2024;b;-20,00;\n15.02.2024;Storno;20,00;\n"
