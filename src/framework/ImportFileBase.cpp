@@ -111,10 +111,12 @@ bool ImportFileBase::setColumnVal(const RowInserter& row, const char* columnName
     // A record that was removed, or never made, takes nothing.
     if (row.record() == nullptr || row.record() != m_currentRow.record())
         return false;
+    // Converted first: a date teaches its order even where the record has no such field.
+    const DataType converted = convertStringToDataType(columnName, value);
     Node* field = row.record()->getNode(NDX(columnName));
     if (field == nullptr)
         return false;
-    if (field->setValue(convertStringToDataType(columnName, value), NDX(), 0))
+    if (field->setValue(converted, NDX(), 0))
         return true;
     reportRefusedValue(value);
     return false;

@@ -72,6 +72,20 @@ TEST_F(RecordRowTest, UnknownFieldIsFalseWithoutATextAndLeavesTheRecord) {
     EXPECT_TRUE(m_module.setColumnVal(row, "Empfaenger", "x", false));
 }
 
+TEST_F(RecordRowTest, DateTeachesItsOrderEvenWhereTheRecordHasNoField) {
+    SchemaDraft schema = SchemaDraft::finance();
+    schema.table("DataSets").without("Datum");
+    const FinanceModel model(schema);
+    ScriptedModule module;
+    ImportInputParams params = paramsFor("");
+    params.m_targetNode = model.root();
+    module.importFile(params);
+    const auto row = module.startRow(1, false);
+    EXPECT_FALSE(module.setColumnVal(row, "Datum", "12/31/2004", false));
+    EXPECT_EQ(SmartDate::sm_order, kMonthFirst);
+    EXPECT_EQ(model.rows("DataSets"), 1) << "the record stays";
+}
+
 TEST_F(RecordRowTest, FieldOutsideTheCatalogueGetsTheEmptyValueAndIsRefused) {
     const auto row = m_module.startRow(7, false);
     EXPECT_FALSE(m_module.setColumnVal(row, "UniqueID", "5", false));
