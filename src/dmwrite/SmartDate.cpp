@@ -14,11 +14,19 @@ enum Order : int { eUnknown = 0, eDayFirst = 1, eMonthFirst = 2 };
 
 constexpr int kGreatestMonth = 12;
 
-/// The number that the digits spell; one too large for an int is the largest int.
+/// The number at the start of the text, as atoi reads it but under every locale
+/// alike. One that no int holds is the nearest int.
 int numberFrom(const std::string& digits) {
+    const char* at = digits.c_str();
+    while (*at == ' ' || (*at >= '\t' && *at <= '\r'))
+        ++at;
+    if (*at == '+' && at[1] != '-')
+        ++at;
     int number = 0;
-    const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), number);
-    return result.ec == std::errc::result_out_of_range ? std::numeric_limits<int>::max() : number;
+    const auto result = std::from_chars(at, digits.c_str() + digits.size(), number);
+    if (result.ec == std::errc::result_out_of_range)
+        return *at == '-' ? std::numeric_limits<int>::min() : std::numeric_limits<int>::max();
+    return number;
 }
 
 } // namespace

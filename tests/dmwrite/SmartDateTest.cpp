@@ -281,6 +281,32 @@ TEST_F(SmartDateTest, PrintsItsNumbersInTheOrderOfTheFile) {
     }
 }
 
+TEST_F(SmartDateTest, SetNumberReadsTheNumberAtTheStartOfItsText) {
+    struct Case {
+        const char* text;
+        const char* want;
+        const char* why;
+    };
+    const Case cases[] = {
+        {"12", "12.00.0000", "digits"},
+        {" \t\n\v\f\r12", "12.00.0000", "white space before the number"},
+        {"+12", "12.00.0000", "a plus"},
+        {"-5", "-5.00.0000", "a minus"},
+        {"+-5", "00.00.0000", "one sign at most"},
+        {"12x34", "12.00.0000", "it ends at the first byte that does not fit"},
+        {"1 2", "01.00.0000", "even at a blank"},
+        {"x12", "00.00.0000", "no number at the start"},
+        {"", "00.00.0000", "no number at all"},
+        {"-99999999999", "-2147483648.00.0000", "below every int: the smallest"},
+        {"99999999999999999999999", "2147483647.00.0000", "above every int: the largest"},
+    };
+    for (const Case& c : cases) {
+        SmartDate date;
+        date.setNumber(0, c.text);
+        EXPECT_EQ(date.asString(), c.want) << c.why;
+    }
+}
+
 TEST_F(SmartDateTest, SetNumberIgnoresPositionsThatNoDateHas) {
     SmartDate date;
     for (const int index : {3, 4, 1000, -1})
