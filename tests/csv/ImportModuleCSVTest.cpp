@@ -246,6 +246,25 @@ TEST(CsvDelimiter, IsJudgedOnALoneLastLine) {
     EXPECT_EQ(job.module.getBestDelimiter(), '|');
 }
 
+TEST(CsvDelimiter, IsJudgedOnALoneLastLineEvenWhereReadingFails) {
+    CsvImport job;
+    job.module.m_delimiter = '|';
+
+    EXPECT_EQ(job.simulated().run("a;b\nc;d\ne\n" + std::string(4095, 'x')), 0);
+
+    EXPECT_EQ(job.module.getBestDelimiter(), '|');
+}
+
+TEST(CsvDelimiter, IsNotJudgedOnALoneLastLineWhereThePreviewFails) {
+    CsvImport job;
+    job.module.m_delimiter = '|';
+    job.simulated().withHeader().run("a\n");
+
+    EXPECT_EQ(job.run("a;b\nc;d\ne\n"), 0); // the table has its header
+
+    EXPECT_EQ(job.module.getBestDelimiter(), ';');
+}
+
 TEST(CsvDelimiter, IsSoughtOnLinesAsRead) {
     CsvImport job;
     job.simulated().run("\"a;b\",c\nd,e\n");
@@ -321,6 +340,19 @@ TEST(CsvImported, LeavesUnassignedColumnsOut) {
 
     EXPECT_THAT(job.records("Empfaenger"), ElementsAre("c"));
     EXPECT_EQ(job.model.kind("DataSets/1/Kategorie"), DataType::eEmpty);
+}
+
+TEST(CsvImported, TakesFortyNineOfSixtyColumns) {
+    std::string line = "0";
+    for (int i = 1; i < 60; ++i)
+        line += ";" + std::to_string(i);
+    CsvImport job;
+
+    EXPECT_EQ(job.assign({{{48, eColEmpfaenger}, {49, eColKategorie}}, 2}).run(line), 1);
+
+    EXPECT_THAT(job.records("Empfaenger"), ElementsAre("48"));
+    EXPECT_EQ(job.model.kind("DataSets/1/Kategorie"), DataType::eEmpty);
+    EXPECT_STREQ(job.module.getErrorMsg(), "");
 }
 
 TEST(CsvImported, LeavesFieldsOfANarrowRowEmpty) {
