@@ -85,6 +85,8 @@ Node* Node::getNodeNum(unsigned short row) const {
 
 int NodeTable::create(unsigned short row) {
     auto& table = static_cast<OwnTable&>(*this);
+    if (!std::exchange(g_ownModelLog.rowPrepared, false))
+        ++g_ownModelLog.breaches;
     if (row != table.m_rows.size() + 1) {
         ++g_ownModelLog.breaches;
         return 0;

@@ -19,8 +19,11 @@ struct OwnModelLog {
     int managerSizeChecks = 0;
     int wrongSizes = 0;
     int updatesPrepared = 0;
+    bool rowPrepared = false; ///< the row that is made next was announced
     int rowsDestroyed = 0;
-    int breaches = 0; ///< calls outside the contract: other keys, flags or row numbers than it names
+    /// Calls outside the contract: other keys, flags or row numbers than it names,
+    /// rows made unannounced.
+    int breaches = 0;
 };
 
 /// Lives before the first static initialiser runs: the checks at load come early.
@@ -52,7 +55,10 @@ public:
     explicit OwnRecord(const OwnFields& fields);
     ~OwnRecord();
 
-    void prepareUpdate() override { ++g_ownModelLog.updatesPrepared; }
+    void prepareUpdate() override {
+        ++g_ownModelLog.updatesPrepared;
+        g_ownModelLog.rowPrepared = true;
+    }
     unsigned short getNodeCount() const override { return 0; }
     DMSchemaContext* getSchemaContext() const override;
     DataType getValue() const override { return {}; }

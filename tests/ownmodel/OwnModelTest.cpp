@@ -115,6 +115,7 @@ TEST_F(OwnModelTest, PreparesAnUpdateBeforeEveryRow) {
     runImport("24.12.2025;Laden;1\n25.12.2025;Kiosk;2\n", kDateNameAmount);
 
     EXPECT_EQ(g_ownModelLog.updatesPrepared, 3); // two records, one session
+    EXPECT_EQ(g_ownModelLog.breaches, 0) << "a row was made first";
 }
 
 TEST_F(OwnModelTest, IsCalledAsTheContractSays) {
