@@ -72,14 +72,16 @@ bool keepsLayout(Import::E_SupportedImportFormats format, const PreparedFile& pr
 }
 
 /// What reading the bytes as text could not keep.
-std::vector<IntakeMessage> aboutText(const HostFileText& text) {
+std::vector<IntakeMessage> aboutText(const HostFileText& text, int lineCount) {
     std::vector<IntakeMessage> messages;
+    // Behind the last line there may be nothing but a character without width.
+    const auto existing = [&](int line) { return std::min(line, lineCount); };
     for (const auto& [character, substitution] : text.substitutions)
-        messages.push_back(Messages::make(MessageId::characterReplaced, substitution.firstLine,
+        messages.push_back(Messages::make(MessageId::characterReplaced, existing(substitution.firstLine),
                                           {TextTools::utf8Of(character), std::to_string(substitution.count),
                                            TextTools::toUtf8(substitution.replacement)}));
     if (text.brokenLine > 0)
-        messages.push_back(Messages::make(MessageId::encodingBroken, text.brokenLine));
+        messages.push_back(Messages::make(MessageId::encodingBroken, existing(text.brokenLine)));
     if (text.text.find('\0') != std::string::npos)
         messages.push_back(Messages::make(MessageId::zeroBytes, 0));
     return messages;
@@ -183,7 +185,7 @@ IntakeResult read(std::string_view bytes, Import::E_SupportedImportFormats forma
         }
         readDelimited(physical, narrowed, result);
     }
-    addMessages(aboutText(text), result.prepared.messages);
+    addMessages(aboutText(text, static_cast<int>(physical.lines.size())), result.prepared.messages);
     result.prepared.untouched = !result.undecided && result.prepared.text == bytes;
     return result;
 }

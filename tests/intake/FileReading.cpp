@@ -47,19 +47,12 @@ void run(Module& module, const IntakeResult& intake, const FinanceModel& model) 
     module.importFile(params);
 }
 
-/// Lines of a text, whatever ends them; counted without the intake's help.
+/// Lines of a text, counted without the intake's help. Where there are line
+/// feeds, a carriage return by itself ends no line.
 int linesOf(std::string_view text) {
-    int lines = 0;
-    bool open = false;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (!open)
-            ++lines;
-        const bool carriageReturn = text[i] == '\r';
-        if (carriageReturn && i + 1 < text.size() && text[i + 1] == '\n')
-            ++i;
-        open = !carriageReturn && text[i] != '\n';
-    }
-    return lines;
+    const char end = text.find('\n') == std::string_view::npos ? '\r' : '\n';
+    const auto ends = std::count(text.begin(), text.end(), end);
+    return static_cast<int>(ends) + (text.empty() || text.back() == end ? 0 : 1);
 }
 
 } // namespace
@@ -107,7 +100,6 @@ void FileReading::expectLinesAccounted(std::string_view bytes) const {
     const auto ends = std::count(preparedText().begin(), preparedText().end(), '\n');
     EXPECT_GE(ends, linesOf(text) - 1) << "lines keep their numbers";
     EXPECT_LE(ends, linesOf(text) + added) << "lines keep their numbers";
-    EXPECT_EQ(preparedText().find('\r'), std::string::npos);
     EXPECT_EQ(preparedText().find('\0'), std::string::npos);
 }
 
