@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <string>
+#include <string_view>
 
 #include "csv/stripQuotes.h"
 #include "framework/AssertTypeSizes.h"
@@ -34,16 +35,12 @@ constexpr std::array<Source, 7> kLayout = {{
 
 constexpr int kRowWidth = static_cast<int>(kLayout.size());
 
-std::string valueOf(const Source& source, const ImportDataSetStartMoney& row) {
-    std::string value;
+void readInto(std::string& value, const Source& source, const ImportDataSetStartMoney& row) {
+    value.clear();
     for (int column = source.first; column <= source.last; ++column) {
-        const char* text = row.m_columns[column];
-        if (source.quotes == Quotes::strip)
-            value += stripQuotes(text);
-        else
-            value += text;
+        const std::string_view text = row.m_columns[column];
+        value += source.quotes == Quotes::strip ? withoutQuotes(text) : text;
     }
-    return value;
 }
 
 } // namespace
@@ -59,7 +56,9 @@ const char* ImportModuleStarMoney::getFileExtension() const { return m_MyFileExt
 bool ImportModuleStarMoney::importRowIntoTable(const ImportDataSetStartMoney& row, int /*columnCount*/, int rowIndex) {
     const bool header = rowIndex == 0;
     const RowInserter inserter = startRow(kRowWidth, header);
+    std::string value; // one for all: most rows then need memory for one text
     return std::all_of(kLayout.begin(), kLayout.end(), [&](const Source& source) {
-        return setColumnVal(inserter, getColumnNameForIndex(source.column), valueOf(source, row).c_str(), header);
+        readInto(value, source, row);
+        return setColumnVal(inserter, getColumnNameForIndex(source.column), value.c_str(), header);
     });
 }

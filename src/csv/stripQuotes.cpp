@@ -2,15 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "csv/stripQuotes.h"
 
-#include <string_view>
-
 #include "framework/AssertTypeSizes.h"
 
-std::string stripQuotes(const char* text) {
-    std::string_view view(text);
-    if (view == "\"")
+std::string_view withoutQuotes(std::string_view text) {
+    if (text == "\"")
         return {};
-    if (view.size() >= 2 && view.front() == '"' && view.back() == '"')
-        view = view.substr(1, view.size() - 2);
-    return std::string(view);
+    if (text.size() >= 2 && text.front() == '"' && text.back() == '"')
+        text = text.substr(1, text.size() - 2);
+    return text;
 }
+
+std::string stripQuotes(const char* text) { return std::string(withoutQuotes(text)); }

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "dmwrite/ImportIntoDMHelper.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstring>
@@ -101,13 +102,13 @@ const char* ImportIntoDMHelper::getColumnNameForHBIndex(Import::E_HBColumnIndex 
 }
 
 Import::E_ColumnIndex ImportIntoDMHelper::getColumnIndexForName(const char* name) const {
-    int index = 0;
-    for (const Column& column : kColumns) {
-        if (std::strcmp(column.name, name) == 0)
-            return static_cast<Import::E_ColumnIndex>(index);
-        ++index;
-    }
-    return Import::eColNone;
+    // Nearly every name comes from this table, so that its address is enough.
+    const auto* found =
+        std::find_if(kColumns.begin(), kColumns.end(), [name](const Column& column) { return column.name == name; });
+    if (found == kColumns.end())
+        found = std::find_if(kColumns.begin(), kColumns.end(),
+                             [name](const Column& column) { return std::strcmp(column.name, name) == 0; });
+    return static_cast<Import::E_ColumnIndex>(found - kColumns.begin());
 }
 
 DataType ImportIntoDMHelper::convertStringToDataType(Import::E_ColumnIndex index, const char* text) const {

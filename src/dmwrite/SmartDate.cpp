@@ -2,9 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "dmwrite/SmartDate.h"
 
+#include <algorithm>
 #include <charconv>
-#include <cstdio>
+#include <cstddef>
+#include <cstdint>
+#include <iterator>
 #include <limits>
+#include <system_error>
 
 #include "framework/AssertTypeSizes.h"
 
@@ -29,6 +33,38 @@ int numberFrom(const std::string& digits) {
     return number;
 }
 
+/// The digits of one number of a date, read as they come.
+class DigitRun {
+public:
+    void add(char digit) {
+        m_number = std::min(m_number * 10 + (digit - '0'), kMost);
+        ++m_count;
+    }
+    /// One too large for an int is the largest int.
+    int number() const { return static_cast<int>(m_number); }
+    std::size_t count() const { return m_count; }
+
+private:
+    static constexpr std::int64_t kMost = std::numeric_limits<int>::max();
+
+    std::int64_t m_number = 0;
+    std::size_t m_count = 0;
+};
+
+/// As printf's "%0nd": the zeros follow the sign, which counts as a place.
+void appendPadded(std::string& out, int number, std::ptrdiff_t places) {
+    char digits[std::numeric_limits<unsigned>::digits10 + 1];
+    const unsigned magnitude = number < 0 ? 0U - static_cast<unsigned>(number) : static_cast<unsigned>(number);
+    const char* const end = std::to_chars(std::begin(digits), std::end(digits), magnitude).ptr;
+    if (number < 0) {
+        out += '-';
+        --places;
+    }
+    for (std::ptrdiff_t have = end - digits; have < places; ++have)
+        out += '0';
+    out.append(static_cast<const char*>(digits), end);
+}
+
 } // namespace
 
 int SmartDate::sm_order = eUnknown;
@@ -48,7 +84,7 @@ void SmartDate::clear() {
 bool SmartDate::parse(const char* text) {
     if (text == nullptr || *text == '\0')
         return false;
-    std::string digits;
+    DigitRun digits;
     int separators = 0;
     for (; *text != '\0'; ++text) {
         switch (*text) {
@@ -62,7 +98,7 @@ bool SmartDate::parse(const char* text) {
         case '7':
         case '8':
         case '9':
-            digits += *text;
+            digits.add(*text);
             break;
         case '\'':
             if (separators == 1 && m_useQIFSyntax)
@@ -71,10 +107,10 @@ bool SmartDate::parse(const char* text) {
         case '-':
         case '.':
         case '/':
-            setNumber(separators, digits);
+            takeNumber(separators, digits.number(), digits.count());
             // Beyond the third separator nothing counts any more.
             separators = separators < 3 ? separators + 1 : separators;
-            digits.clear();
+            digits = DigitRun();
             break;
         default:
             break;
@@ -83,23 +119,27 @@ bool SmartDate::parse(const char* text) {
     if (separators < 2)
         m_valid = false;
     else if (separators == 2)
-        setNumber(2, digits);
+        takeNumber(2, digits.number(), digits.count());
     return isValid();
 }
 
 void SmartDate::setNumber(int index, const std::string& digits) {
+    takeNumber(index, numberFrom(digits), digits.size());
+}
+
+void SmartDate::takeNumber(int index, int number, std::size_t digits) {
     switch (index) {
     case 0:
-        m_first = numberFrom(digits);
+        m_first = number;
         learnOrder(m_first, eDayFirst);
         break;
     case 1:
-        m_second = numberFrom(digits);
+        m_second = number;
         learnOrder(m_second, eMonthFirst);
         break;
     case 2:
-        m_year = numberFrom(digits);
-        if (digits.size() <= 2)
+        m_year = number;
+        if (digits <= 2)
             m_year = widenYear(m_year);
         break;
     default:
@@ -158,9 +198,13 @@ DMDate SmartDate::getDate() const {
 }
 
 std::string SmartDate::asString() const {
-    char text[40]; // three ints of any size
-    const int length = std::snprintf(text, sizeof text, "%02d.%02d.%04d", m_first, m_second, m_year);
-    return {text, static_cast<std::string::size_type>(length)};
+    std::string text;
+    appendPadded(text, m_first, 2);
+    text += '.';
+    appendPadded(text, m_second, 2);
+    text += '.';
+    appendPadded(text, m_year, 4);
+    return text;
 }
 
 void SmartDate::setupCenturyStart(Node* node) {

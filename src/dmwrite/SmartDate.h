@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
 #include <string>
 
 #include "framework/datamodel_api/DMDate.h"
@@ -52,6 +53,7 @@ public:
     static unsigned short sm_CenturyWindowStart;
 
 private:
+    void takeNumber(int index, int number, std::size_t digits);
     void learnOrder(int number, int orderItProves);
     int widenYear(int year) const;
 

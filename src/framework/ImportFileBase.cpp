@@ -3,7 +3,6 @@
 #include "framework/ImportFileBase.h"
 
 #include <cstdio>
-#include <cstring>
 #include <fstream>
 #include <istream>
 #include <string>
@@ -22,6 +21,7 @@ constexpr const char* kRefusedValues = "Fehler beim Analysieren der Daten aus de
 constexpr const char* kCannotOpen = "Die Importdatei konnte nicht geöffnet werden."_latin1;
 
 constexpr std::size_t kMessageSize = 498; // 497 characters at most
+constexpr std::size_t kBlockSize = 32768; // read from a file at once
 
 const char* orEmpty(const char* text) { return text != nullptr ? text : ""; }
 
@@ -50,7 +50,9 @@ int ImportFileBase::importFile(const ImportInputParams& params) {
         std::istream input(&bytes);
         return readLines(input, params.m_targetNode);
     }
+    char block[kBlockSize];
     std::ifstream input;
+    input.rdbuf()->pubsetbuf(block, sizeof block);
     if (params.m_fileName != nullptr)
         input.open(CrossPlatformApi::fileSystemEncoding(params.m_fileName));
     if (!input.is_open()) {
@@ -85,7 +87,11 @@ int ImportFileBase::getLastImportedSessionID() const { return m_session.m_import
 
 int ImportFileBase::getInputFileColNo(Import::E_ColumnIndex column) { return column; }
 
-bool ImportFileBase::isEmptyLine(const char* line) { return line[std::strspn(line, " \t")] == '\0'; }
+bool ImportFileBase::isEmptyLine(const char* line) {
+    while (*line == ' ' || *line == '\t')
+        ++line;
+    return *line == '\0';
+}
 
 ImportFileBase::RowInserter ImportFileBase::startRow(int columns, bool header) {
     m_currentRow = RowInserter();

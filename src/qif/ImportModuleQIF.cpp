@@ -10,7 +10,7 @@
 #include "framework/AssertTypeSizes.h"
 #include "framework/Latin1.h"
 #include "qif/QifFieldTables.h"
-#include "qif/stripBlanks.h"
+#include "qif/StrippedLine.h"
 
 namespace {
 
@@ -78,7 +78,7 @@ bool ImportModuleQIF::processLine(char* line, Node* /*target*/) {
         return parseAcountItem(line);
     // The end of a skipped record empties nothing: the first line behind a header
     // or a "^" was read like any other, and what it said reaches the next record.
-    m_atRecordStart = *stripBlanks(line).c_str() == QifFieldTables::kEndOfRecord;
+    m_atRecordStart = StrippedLine(line).letter() == QifFieldTables::kEndOfRecord;
     return true;
 }
 

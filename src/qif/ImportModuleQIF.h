@@ -115,6 +115,10 @@ protected:
     bool m_atRecordStart = false; ///< the next line may be a header
 
 private:
+    enum class Verdict { refuse, skip, collect };
+
+    /// What becomes of a finished record, which is completed where it is collected.
+    Verdict complete(ImportDataSet& dataSet);
     bool parseDate(const char* text);
     bool endRecord();
     void reportUnknownEntry(const char* line);

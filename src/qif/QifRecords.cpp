@@ -4,12 +4,14 @@
 #include <array>
 #include <cstddef>
 #include <string>
+#include <string_view>
+#include <utility>
 
 #include "framework/AssertTypeSizes.h"
 #include "framework/Latin1.h"
 #include "qif/ImportModuleQIF.h"
 #include "qif/QifFieldTables.h"
-#include "qif/stripBlanks.h"
+#include "qif/StrippedLine.h"
 
 namespace {
 
@@ -25,8 +27,8 @@ const Row* find(const std::array<Row, size>& rows, char letter) {
 } // namespace
 
 bool ImportModuleQIF::parseAcountItem(const char* line) {
-    const std::string entry = stripBlanks(line);
-    const char letter = *entry.c_str();
+    const StrippedLine entry(line);
+    const char letter = entry.letter();
     m_atRecordStart = letter == QifFieldTables::kEndOfRecord;
     const Row* field = m_accountType == Category ? find(QifFieldTables::kCategoryFields, letter)
                                                  : find(QifFieldTables::kTransactionFields, letter);
@@ -34,15 +36,15 @@ bool ImportModuleQIF::parseAcountItem(const char* line) {
         reportUnknownEntry(line);
         return true;
     }
-    const char* value = entry.c_str() + 1;
+    const std::string_view value = entry.text().substr(1); // every known letter is a character
     switch (field->action) {
     case Action::keepText:
         m_currentDataSet.*field->text = value;
         break;
     case Action::readDate:
-        return parseDate(value);
+        return parseDate(value.data());
     case Action::addBudget:
-        m_currentDataSet.addBudget(scanCurrency(value));
+        m_currentDataSet.addBudget(scanCurrency(value.data()));
         break;
     case Action::endRecord:
         return endRecord();
@@ -60,9 +62,14 @@ bool ImportModuleQIF::parseDate(const char* text) {
 }
 
 bool ImportModuleQIF::endRecord() {
-    const bool valid = processDataSet(m_currentDataSet);
+    const Verdict verdict = complete(m_currentDataSet);
+    if (verdict == Verdict::collect) {
+        std::string label = m_currentDataSet.m_sectionLabel;
+        m_dataSets.push_back(std::move(m_currentDataSet));
+        m_currentDataSet.m_sectionLabel = std::move(label);
+    }
     m_currentDataSet.clearRecord();
-    return valid;
+    return verdict != Verdict::refuse;
 }
 
 void ImportModuleQIF::reportUnknownEntry(const char* line) {
@@ -71,14 +78,20 @@ void ImportModuleQIF::reportUnknownEntry(const char* line) {
 }
 
 bool ImportModuleQIF::processDataSet(ImportDataSet& dataSet) {
+    const Verdict verdict = complete(dataSet);
+    if (verdict == Verdict::collect)
+        m_dataSets.push_back(dataSet);
+    return verdict != Verdict::refuse;
+}
+
+ImportModuleQIF::Verdict ImportModuleQIF::complete(ImportDataSet& dataSet) {
     // Every header sets a label, so that a run never meets this.
     if (dataSet.m_sectionLabel.empty()) {
         setErrorLineMsg("Ungültiger Datensatz"_latin1);
-        return false;
+        return Verdict::refuse;
     }
     if (m_accountType == Category && dataSet.m_amount.empty())
-        return true;
+        return Verdict::skip;
     dataSet.describeSecurity();
-    m_dataSets.push_back(dataSet);
-    return true;
+    return Verdict::collect;
 }

@@ -263,6 +263,22 @@ TEST_F(SmartDateTest, HugeNumbersPrintWhole) {
     EXPECT_EQ(date.asString(), "2147483647.2147483647.2147483647");
 }
 
+TEST_F(SmartDateTest, NumberTooLargeForAnIntIsTheLargest) {
+    SmartDate date;
+    date.parse("1.2.2147483648");
+    EXPECT_EQ(date.asString(), "01.02.2147483647");
+    date.parse(("1.2." + std::string(500, '9')).c_str());
+    EXPECT_EQ(date.asString(), "01.02.2147483647");
+}
+
+TEST_F(SmartDateTest, ASignCountsAsAPlace) {
+    SmartDate date;
+    date.setNumber(0, "-5");
+    date.setNumber(1, "-2147483648");
+    date.setNumber(2, "-50");
+    EXPECT_EQ(date.asString(), "-5.-2147483648.-050");
+}
+
 TEST_F(SmartDateTest, PrintsItsNumbersInTheOrderOfTheFile) {
     struct Case {
         const char* text;
