@@ -1,5 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The ImportModule authors
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <array>
+#include <cstddef>
+
 #include <QtXml/QDomElement>
 
 #include "dmwrite/NodeAccess.h"
@@ -18,7 +22,7 @@ struct Field {
 
 // In the order of writing, up to the first refusal: the value date comes before
 // the booking date, and a host may find the beginning of a booking.
-constexpr Field kFields[] = {
+constexpr std::array<Field, 10> kFields = {{
     {Import::eHBBuchungsID, &g_tagID},
     {Import::eHBValutaDatum, &g_tagValuta},
     {Import::eHBBuchungsDatum, &g_tagDatum},
@@ -29,7 +33,28 @@ constexpr Field kFields[] = {
     {Import::eHBEmpfaenger, &g_tagEmpfaenger},
     {Import::eHBNotiz, &g_tagNotiz},
     {Import::eHBKategorie, &g_tagKategorie},
-};
+}};
+
+/// The elements of a booking that fill its fields, in the order of `kFields`:
+/// of several with one name the first, null where there is none. Found in one
+/// walk; asking for each name took as many walks as there are fields.
+using FieldElements = std::array<QDomElement, kFields.size()>;
+
+FieldElements findFieldElements(const QDomNode& buchung) {
+    std::array<QLatin1String, kFields.size()> tags;
+    std::transform(kFields.begin(), kFields.end(), tags.begin(),
+                   [](const Field& field) { return QLatin1String(*field.tag); });
+    FieldElements found;
+    for (QDomElement child = buchung.firstChildElement(); !child.isNull(); child = child.nextSiblingElement()) {
+        const QString name = child.tagName();
+        for (std::size_t i = 0; i < tags.size(); ++i) {
+            // A field that a host gave no name takes the first element, whatever it is called.
+            if (found[i].isNull() && (tags[i].size() == 0 || name == tags[i]))
+                found[i] = child;
+        }
+    }
+    return found;
+}
 
 } // namespace
 
@@ -66,8 +91,9 @@ bool BankingXML::importBuchnung(const QDomNode& buchung, Node* account) {
     Node* row = createNewDataSet(account);
     if (row == nullptr)
         return false;
-    for (const Field& field : kFields) {
-        if (!importValue(row, field.column, getSafeChildValue(buchung, *field.tag)))
+    const FieldElements elements = findFieldElements(buchung);
+    for (std::size_t i = 0; i < kFields.size(); ++i) {
+        if (!importValue(row, kFields[i].column, elements[i].text()))
             return false;
     }
     return setUniqueID(row);

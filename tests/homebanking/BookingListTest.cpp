@@ -8,6 +8,7 @@
 #include "framework/Latin1.h"
 #include "homebanking/BankingXML.h"
 #include "homebanking/HomeBankingFixture.h"
+#include "homebanking/XmlNames.h"
 
 namespace {
 
@@ -134,6 +135,26 @@ TEST_F(BookingListTest, AbsentAndEmptyElementsLeaveTheirColumnsUnwritten) {
     }
     EXPECT_EQ(account("NeueBuchungen"), "2");
     EXPECT_EQ(m_model.kind("HomeBankingImport/1/LetzteBuchungsId"), DataType::eEmpty);
+}
+
+TEST_F(BookingListTest, OfSeveralElementsWithOneNameTheFirstCounts) {
+    EXPECT_TRUE(importList("<buchung>x<notiz/><!-- c --><id>1</id><id>2</id><b:id xmlns:b=\"b\">3</b:id>"
+                           "<notiz>spät</notiz><betrag>1,00</betrag><betrag>zwei</betrag></buchung>"));
+    EXPECT_EQ(booking(1, "BuchungsID"), "1");
+    EXPECT_EQ(bookingKind(1, "Notiz"), DataType::eEmpty) << "the first one is empty";
+    EXPECT_EQ(booking(1, "Betrag"), "1,00");
+}
+
+TEST_F(BookingListTest, HostsMayCallElementsOtherwise) {
+    const char* const tag = g_tagNotiz;
+    g_tagNotiz = "kategorie"; // one element may feed two fields
+    EXPECT_TRUE(importList("<buchung><id>1</id><notiz>N</notiz><kategorie>K</kategorie></buchung>"));
+    g_tagNotiz = "";
+    EXPECT_TRUE(importList("<buchung><gvcode>051</gvcode><id>2</id></buchung>"));
+    g_tagNotiz = tag;
+    EXPECT_EQ(booking(1, "Notiz"), "K");
+    EXPECT_EQ(booking(1, "Kategorie"), "K");
+    EXPECT_EQ(booking(2, "Notiz"), "051") << "without a name any element is the one";
 }
 
 TEST_F(BookingListTest, BookingWithoutAmountIsCounted) {
