@@ -11,20 +11,6 @@
 
 static_assert(sizeof(FieldNode) == 24, "nine fields and their record share four cache lines");
 
-template <typename T>
-T FieldNode::content() const {
-    static_assert(sizeof(T) <= kShortText);
-    T value;
-    std::memcpy(&value, m_content, sizeof value);
-    return value;
-}
-
-template <typename T>
-void FieldNode::setContent(T value) {
-    static_assert(sizeof(T) <= kShortText);
-    std::memcpy(m_content, &value, sizeof value);
-}
-
 FieldNode::~FieldNode() { releaseText(); }
 
 void FieldNode::prepareUpdate() {}
@@ -52,18 +38,18 @@ DataType FieldNode::getValue() const {
     case DataType::eEmpty:
         break;
     case DataType::eInteger:
-        return DataType::makeInteger(content<std::int32_t>());
+        return DataType::makeInteger(integer());
     case DataType::eCurrency:
-        return DataType::makeCurrency(content<double>());
+        return DataType::makeCurrency(amount());
     case DataType::eString:
         return textValue();
     case DataType::eDate: {
         DataType value;
-        value = content<DMDate>();
+        value = date();
         return value;
     }
     case DataType::eBoolean:
-        return DataType::makeBoolean(content<bool>());
+        return DataType::makeBoolean(flag());
     }
     return {};
 }

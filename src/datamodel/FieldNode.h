@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <string_view>
 
 #include "framework/datamodel_api/Node.h"
@@ -28,6 +29,12 @@ public:
     /// The bytes of a text field; empty for any other. Valid until the field changes.
     std::string_view text() const;
 
+    // The bare content, for a field of just that kind: no value is made for it.
+    std::int32_t integer() const { return content<std::int32_t>(); }
+    double amount() const { return content<double>(); }
+    DMDate date() const { return content<DMDate>(); }
+    bool flag() const { return content<bool>(); }
+
     /// Takes a value without asking the schema and without marking the record
     /// as changed: for a store that hands back what was accepted before.
     void restore(const DataType& value);
@@ -45,11 +52,6 @@ private:
     void restoreText(const DataType& value);
     void releaseText();
 
-    template <typename T>
-    T content() const;
-    template <typename T>
-    void setContent(T value);
-
     // Number, date, pointer to a long text, or the bytes of a short text. Raw
     // bytes, so that the three members behind share the last of the 24 bytes.
     static constexpr std::size_t kShortText = 13;
@@ -57,4 +59,17 @@ private:
     DataType::E_Kind m_kind = DataType::eEmpty;
     std::uint8_t m_length = 0; // of a short text, or kLongText
     std::uint8_t m_index;
+
+    template <typename T>
+    T content() const {
+        static_assert(sizeof(T) <= kShortText);
+        T value;
+        std::memcpy(&value, m_content, sizeof value);
+        return value;
+    }
+    template <typename T>
+    void setContent(T value) {
+        static_assert(sizeof(T) <= kShortText);
+        std::memcpy(m_content, &value, sizeof value);
+    }
 };

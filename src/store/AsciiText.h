@@ -2,6 +2,9 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
 #include <string_view>
 
 namespace AsciiText {
@@ -9,10 +12,17 @@ namespace AsciiText {
 /// Whether `text` is the same bytes in UTF-8 and in the host's encoding, as
 /// most texts of a bank are.
 inline bool isAscii(std::string_view text) {
-    unsigned char all = 0;
-    for (const char c : text)
-        all |= static_cast<unsigned char>(c);
-    return all < 0x80;
+    constexpr std::uint64_t kHighBits = 0x8080808080808080;
+    std::uint64_t all = 0;
+    std::size_t at = 0;
+    for (; at + sizeof all <= text.size(); at += sizeof all) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, text.data() + at, sizeof word);
+        all |= word;
+    }
+    for (; at < text.size(); ++at)
+        all |= static_cast<unsigned char>(text[at]);
+    return (all & kHighBits) == 0;
 }
 
 } // namespace AsciiText

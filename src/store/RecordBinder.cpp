@@ -27,21 +27,21 @@ void RecordBinder::bind(SqliteStatement& statement, int firstParameter, const Re
             statement.bindNull(parameter);
             break;
         case DataType::eInteger:
-            statement.bind(parameter, std::int64_t{field.getValue().getInt()});
+            statement.bind(parameter, std::int64_t{field.integer()});
             break;
         case DataType::eCurrency:
-            statement.bind(parameter, field.getValue().getCurrency());
+            statement.bind(parameter, field.amount());
             break;
         case DataType::eString:
             statement.bind(parameter, utf8(i, field.text()));
             break;
         case DataType::eDate:
             m_converted[i].resize(StoreDate::kLength);
-            StoreDate::write(m_converted[i].data(), field.getValue().getDate());
+            StoreDate::write(m_converted[i].data(), field.date());
             statement.bind(parameter, std::string_view(m_converted[i]));
             break;
         case DataType::eBoolean:
-            statement.bind(parameter, std::int64_t{field.getValue().getBoolean()});
+            statement.bind(parameter, std::int64_t{field.flag()});
             break;
         }
     }

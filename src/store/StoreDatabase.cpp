@@ -149,9 +149,14 @@ bool StoreDatabase::canBeWritten() const {
     return !m_connection->isReadOnly() && faccessat(AT_FDCWD, directory.c_str(), W_OK | X_OK, AT_EACCESS) == 0;
 }
 
-void StoreDatabase::commit() { m_connection->execute("COMMIT"); }
+void StoreDatabase::commit() {
+    m_connection->execute("COMMIT");
+    m_created = false; // the tables at least are in the file now
+}
 
 void StoreDatabase::rollback() noexcept {
+    if (!m_connection->inTransaction())
+        return;
     // Fails only where SQLite has rolled back already.
     sqlite3_exec(m_connection->handle(), "ROLLBACK", nullptr, nullptr, nullptr);
 }
