@@ -54,13 +54,21 @@ std::string twoDigits(std::uint32_t number) {
 std::string purpose(Numbers& numbers) {
     constexpr std::size_t kLength = 48;
     const std::uint32_t kind = numbers.below(10);
-    std::string text = kind == 0 ? "Nr. \"\"" + std::to_string(numbers.below(1000)) + "\"\" " : "";
+    std::string text = kind == 0 ? "Nr. \"" + std::to_string(numbers.below(1000)) + "\" " : "";
     while (text.size() < kLength) {
         text += numbers.of(kPurposes);
         text += kind == 1 && text.size() < 20 ? "; " : " ";
     }
-    text += std::to_string(100'000'000 + numbers.below(900'000'000));
-    return kind <= 1 ? '"' + text + '"' : text;
+    return text + std::to_string(100'000'000 + numbers.below(900'000'000));
+}
+
+std::string quoted(const std::string& text) {
+    if (text.find_first_of("\";") == std::string::npos)
+        return text;
+    std::string out = "\"";
+    for (const char c : text)
+        out.append(c == '"' ? 2 : 1, c);
+    return out + '"';
 }
 
 } // namespace
@@ -87,15 +95,23 @@ std::string Bookings::amount(std::uint32_t number) {
     return (numbers.below(4) != 0 ? "-" : "") + units + ',' + twoDigits(cents % 100);
 }
 
-std::string Bookings::line(std::uint32_t number) {
+Bookings::Parts Bookings::parts(std::uint32_t number) {
     Numbers numbers(number, eTexts);
-    std::string text = date(number) + kDelimiter;
-    text.append(numbers.of(kShops)).append(" ").append(numbers.of(kNames)) += kDelimiter;
-    text.append(numbers.of(kGroups)) += kDelimiter;
-    text.append(numbers.of(kKinds)) += kDelimiter;
-    text += purpose(numbers) + kDelimiter;
-    text.append(numbers.of(kPostings)) += kDelimiter;
-    return text + amount(number);
+    Parts parts;
+    parts.payee.append(numbers.of(kShops)).append(" ").append(numbers.of(kNames));
+    parts.group = numbers.of(kGroups);
+    parts.kind = numbers.of(kKinds);
+    parts.purpose = purpose(numbers);
+    parts.posting = numbers.of(kPostings);
+    return parts;
+}
+
+std::string Bookings::line(std::uint32_t number) {
+    const Parts texts = parts(number);
+    std::string line = date(number) + kDelimiter;
+    for (const std::string& text : {texts.payee, texts.group, texts.kind, quoted(texts.purpose), texts.posting})
+        line += text + kDelimiter;
+    return line + amount(number);
 }
 
 std::string Bookings::file(std::uint32_t count) {

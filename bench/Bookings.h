@@ -24,4 +24,14 @@ public:
 
     /// The whole file: header and `count` lines, each ended by a line feed.
     static std::string file(std::uint32_t count);
+
+    /// A booking by its parts, Latin-1, for the other formats.
+    struct Parts {
+        std::string payee;
+        std::string group;
+        std::string kind;
+        std::string purpose; ///< may hold quotes and the delimiter
+        std::string posting;
+    };
+    static Parts parts(std::uint32_t number);
 };
