@@ -2,8 +2,6 @@
 // SPDX-License-Identifier: MIT
 #include "cli/FileCensus.h"
 
-#include <algorithm>
-
 #include "cli/FileLines.h"
 
 namespace {
@@ -20,7 +18,9 @@ struct FileCensus::Line {
 
     void add(std::string_view piece) {
         bytes += piece.size();
-        oddQuotes = oddQuotes != (std::count(piece.begin(), piece.end(), '"') % 2 != 0);
+        // Most lines have no quote: a search is many times faster than counting byte by byte.
+        for (std::size_t quote = piece.find('"'); quote != std::string_view::npos; quote = piece.find('"', quote + 1))
+            oddQuotes = !oddQuotes;
         if (isBlankBeforeNul && !hasNul) {
             const std::size_t content = piece.find_first_not_of(" \t");
             isBlankBeforeNul = content == std::string_view::npos || piece[content] == '\0';
