@@ -34,11 +34,13 @@ bool isBefore(const DMDate& a, const DMDate& b) {
 /// Sums in hundredths, so that 65,000 amounts leave no crumbs.
 class Totals {
 public:
+    explicit Totals(const RecordSpec& spec) : m_amount(*spec.fieldIndex("Betrag")), m_date(*spec.fieldIndex("Datum")) {}
+
     void add(RecordNode& record) {
-        const FieldNode& amount = ModelTables::field(record, "Betrag");
+        const FieldNode& amount = record.fields()[m_amount];
         if (amount.kind() == DataType::eCurrency)
             m_hundredths += std::llround(amount.getValue().getCurrency() * kHundredths);
-        const FieldNode& date = ModelTables::field(record, "Datum");
+        const FieldNode& date = record.fields()[m_date];
         if (date.kind() != DataType::eDate)
             return;
         const DMDate day = date.getValue().getDate();
@@ -55,6 +57,8 @@ public:
     const DMDate& last() const { return m_last; }
 
 private:
+    std::size_t m_amount; // places of the fields
+    std::size_t m_date;
     std::int64_t m_hundredths = 0;
     DMDate m_first;
     DMDate m_last;
@@ -80,16 +84,21 @@ std::optional<Session> find(DataManager& model, const std::string& checksum) {
 
 void keepLines(const NewRecords& added, const std::vector<std::size_t>& lines) {
     const std::vector<RecordNode*> rows = added.rows();
+    if (rows.empty())
+        return;
+    const std::size_t field = *rows.front()->spec().fieldIndex("Zeile");
     for (std::size_t i = 0; i < rows.size() && i < lines.size(); ++i)
-        set(*rows[i], "Zeile", number(lines[i]));
+        rows[i]->fields()[field].setValue(number(lines[i]), NDX(), 0);
 }
 
 void keepSession(const NewRecords& added, const Facts& facts) {
     RecordNode* session = added.session();
     if (session == nullptr)
         return;
-    Totals totals;
     const std::vector<RecordNode*> rows = added.rows();
+    if (rows.empty())
+        return; // a session is written with its first record
+    Totals totals(rows.front()->spec());
     for (RecordNode* row : rows)
         totals.add(*row);
     set(*session, "Pruefsumme", valueOf(facts.checksum.c_str()));
