@@ -254,6 +254,17 @@ TEST_F(SessionWritingTest, NewImportStartsItsCountersAfresh) {
     EXPECT_EQ(m_model.integer("DataSets/3/ImportID"), 2);
 }
 
+TEST_F(SessionWritingTest, NewImportWritesIntoItsOwnTarget) {
+    EXPECT_EQ(import("a\n"), 1);
+    const FinanceModel other;
+    EXPECT_EQ(importInto(other, m_module, "b\nc\n"), 1);
+    EXPECT_EQ(m_model.rows("DataSets"), 1);
+    EXPECT_EQ(m_model.rows("Importsessions"), 1);
+    EXPECT_EQ(other.rows("DataSets"), 2);
+    EXPECT_EQ(other.rows("Importsessions"), 1);
+    EXPECT_EQ(other.integer("NextImportID"), 2);
+}
+
 TEST_F(SessionWritingTest, NewImportForgetsTheRowOfTheOneBefore) {
     EXPECT_EQ(import("a\n"), 1);
     ASSERT_NE(m_module.m_currentRow.record(), nullptr);
