@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #pragma once
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <utility>
@@ -58,6 +59,8 @@ public:
     void prepareUpdate() override {
         ++g_ownModelLog.updatesPrepared;
         g_ownModelLog.rowPrepared = true;
+        if (m_onPrepare)
+            m_onPrepare();
     }
     unsigned short getNodeCount() const override { return 0; }
     DMSchemaContext* getSchemaContext() const override;
@@ -66,8 +69,10 @@ public:
 
     void addTable(const char* name, OwnFields rowFields);
     Node* child(const std::string& name) const;
+    void onPrepare(std::function<void()> action) { m_onPrepare = std::move(action); }
 
 private:
+    std::function<void()> m_onPrepare;
     std::vector<std::pair<std::string, std::unique_ptr<OwnLeaf>>> m_leaves;
     std::vector<std::pair<std::string, std::unique_ptr<OwnTable>>> m_tables;
 };

@@ -118,6 +118,22 @@ TEST_F(OwnModelTest, PreparesAnUpdateBeforeEveryRow) {
     EXPECT_EQ(g_ownModelLog.breaches, 0) << "a row was made first";
 }
 
+TEST_F(OwnModelTest, MayMakeATableWhenItIsPrepared) {
+    OwnRecord late({{"NextImportID", DataType::eInteger}, {"NextUniqueID", DataType::eInteger}});
+    late.getNode(NDX("NextImportID"))->setValue(integer(5), NDX(), 0);
+    late.getNode(NDX("NextUniqueID"))->setValue(integer(17), NDX(), 0);
+    late.onPrepare([&late] {
+        if (late.child("DataSets") == nullptr)
+            late.addTable("DataSets", {{"ImportID", DataType::eInteger}, {"UniqueID", DataType::eInteger}});
+    });
+    root = &late;
+
+    EXPECT_EQ(runImport("egal\n", ColumnAssignment{}), 1);
+
+    ASSERT_EQ(rows("DataSets"), 1);
+    EXPECT_EQ(field("DataSets", 1, "UniqueID").getInt(), 17);
+}
+
 TEST_F(OwnModelTest, IsCalledAsTheContractSays) {
     runImport("24.12.2025;Laden;1\n25.12.2025;Kiosk;1000,01\n", kDateNameAmount);
     runImport("24.12.2025;Laden;1\n", kDateNameAmount, true);
