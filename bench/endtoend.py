@@ -11,6 +11,8 @@ the measurement.
 Workloads (ROWS is what --rows says):
     csv-import, csv-preview, qif-import, ssx-import
                      a file of ROWS bookings, read verbatim
+    csv-inspected, qif-inspected, ssx-inspected
+                     the same imports without an option: inspected and prepared first
     xml-bookings     a booking list of ROWS bookings, into a store that has the account
     xml-accounts     an account list of ROWS accounts, into a new store
     xml-statements   --accounts booking lists, one for each account, ROWS bookings in all
@@ -46,6 +48,9 @@ WORKLOADS = {
     "csv-preview": Workload(["preview", "{file}", "--limit", "0", *VERBATIM, *COLUMNS], "csv", False),
     "qif-import": Workload(["import", "{file}", *STORE, *VERBATIM], "qif", False),
     "ssx-import": Workload(["import", "{file}", *STORE, *VERBATIM], "ssx", False),
+    "csv-inspected": Workload(["import", "{file}", *STORE, "--quiet"], "csv", False),
+    "qif-inspected": Workload(["import", "{file}", *STORE, "--quiet"], "qif", False),
+    "ssx-inspected": Workload(["import", "{file}", *STORE, "--quiet"], "ssx", False),
     "xml-bookings": Workload(["bookings", "{file}", *STORE, *VERBATIM], "bookings", True),
     "xml-accounts": Workload(["accounts", "{file}", *STORE, *VERBATIM], "accounts", False),
     "xml-statements": Workload(["bookings", "{files}", *STORE, *VERBATIM], "statements", True),
