@@ -9,6 +9,7 @@
 #include <QtXml/QXmlSimpleReader>
 
 #include "framework/AssertTypeSizes.h"
+#include "framework/Latin1.h"
 #include "homebanking/XmlLimitHandler.h"
 #include "homebanking/XmlTextScanner.h"
 
@@ -43,7 +44,8 @@ XmlTextScanner scan(const QByteArray& bytes) {
 
 bool isModest(const XmlTextScanner& scanner) {
     return scanner.deepestLevel() <= XmlLimitHandler::kDeepestLevel &&
-           scanner.mostAttributes() <= XmlLimitHandler::kMostAttributes;
+           scanner.mostAttributes() <= XmlLimitHandler::kMostAttributes &&
+           scanner.prefixes() < XmlLimitHandler::kMostPrefixes; // one more has no prefix, and no colon
 }
 
 XmlLimitHandler::Fault readAgain(const QByteArray& bytes, const XmlTextScanner& scanner) {
@@ -64,6 +66,7 @@ constexpr const char* kTexts[] = {
     nullptr,
     "Die Elemente sind mehr als 1000 Ebenen tief verschachtelt.",
     "Ein Element hat mehr als 1000 Attribute.",
+    "Das Dokument vereinbart mehr als 16 Präfixe für Namensräume."_latin1,
     "Die Dokumenttyp-Deklaration (DOCTYPE) ist zu umfangreich. Bitte das Dokument ohne sie schreiben.",
 };
 

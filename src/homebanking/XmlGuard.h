@@ -6,7 +6,8 @@ class QByteArray;
 
 /// Looks at a document before a tree is built from it: elements nested tens of
 /// thousands deep overflow the stack when the tree is built or destroyed, and
-/// attributes or entities by the thousand take hours or gigabytes.
+/// attributes, entities or namespace prefixes in great number take hours or
+/// gigabytes.
 ///
 /// Decodes the bytes as the tree's own reader does, so that it sees what that
 /// one will see. Costs a few percent of building the tree. A document that looks

@@ -14,6 +14,13 @@
 XmlLimitHandler::XmlLimitHandler(std::size_t references, std::size_t expansionLimit, bool inFull)
     : m_references(references), m_expansionLimit(expansionLimit), m_readOn(inFull) {}
 
+bool XmlLimitHandler::startPrefixMapping(const QString& prefix, const QString& /*uri*/) {
+    // At the end of every element the reader compares all that are in force with
+    // each other, and at every declaration it copies them all.
+    m_prefixes.insert(prefix);
+    return m_prefixes.size() <= kMostPrefixes || refuse(Fault::tooManyPrefixes);
+}
+
 bool XmlLimitHandler::startElement(const QString& /*uri*/, const QString& /*localName*/, const QString& /*name*/,
                                    const QXmlAttributes& attributes) {
     if (++m_level > kDeepestLevel)

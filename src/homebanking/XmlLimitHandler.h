@@ -18,6 +18,7 @@ class XmlLimitHandler : public QXmlDefaultHandler {
 public:
     static constexpr int kDeepestLevel = 1000;
     static constexpr int kMostAttributes = 1000;
+    static constexpr int kMostPrefixes = 16;
     static constexpr int kMostEntities = 1000;
     static constexpr std::size_t kMostGroups = 1000;
 
@@ -26,9 +27,10 @@ public:
     /// Reads on behind the DTD if `inFull`, or if entities may hold elements.
     XmlLimitHandler(std::size_t references, std::size_t expansionLimit, bool inFull);
 
-    enum class Fault { none, tooDeep, tooManyAttributes, entities };
+    enum class Fault { none, tooDeep, tooManyAttributes, tooManyPrefixes, entities };
     Fault fault() const { return m_fault; }
 
+    bool startPrefixMapping(const QString& prefix, const QString& uri) override;
     bool startElement(const QString& uri, const QString& localName, const QString& name,
                       const QXmlAttributes& attributes) override;
     bool endElement(const QString& uri, const QString& localName, const QString& name) override;
@@ -44,6 +46,7 @@ private:
     bool m_readOn;
     Fault m_fault = Fault::none;
     int m_level = 0;
+    QSet<QString> m_prefixes;
     QHash<QString, std::size_t> m_entitySizes; ///< entities expanded
     QSet<QString> m_awaited;                   ///< referred to before any declaration
 };

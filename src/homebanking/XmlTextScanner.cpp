@@ -108,6 +108,8 @@ XmlTextScanner::Place XmlTextScanner::readStartTag(Place at, Place end) {
                 leaveElement();
             return at;
         }
+        if (c == u':' && m_last == u's') // "xmlns:", and a few names more
+            ++m_prefixes;
         m_last = c;
         if (c == u'"' || c == u'\'') {
             m_state = State::attributeValue;

@@ -18,6 +18,8 @@ public:
     std::size_t length() const { return m_length; } ///< UTF-16 units read
     int deepestLevel() const { return m_deepestLevel; }
     int mostAttributes() const { return m_mostAttributes; } ///< of one element
+    /// Declarations "xmlns:…" in all elements together.
+    std::size_t prefixes() const { return m_prefixes; }
     bool hasInternalSubset() const { return m_hasInternalSubset; }
     /// Opening parentheses in the declarations of the internal subset.
     std::size_t groups() const { return m_groups; }
@@ -65,6 +67,7 @@ private:
     int m_deepestLevel = 0;
     int m_attributes = 0;
     int m_mostAttributes = 0;
+    std::size_t m_prefixes = 0;
     bool m_hasInternalSubset = false;
     std::size_t m_groups = 0;
     std::size_t m_references = 0;

@@ -27,6 +27,8 @@ using namespace HomeBankingXml;
 constexpr const char* kNotXml = "Die XML-Datei ist ungültig.\r\n"_latin1;
 constexpr const char* kTooManyAttributes =
     "Die XML-Datei ist ungültig.\r\nEin Element hat mehr als 1000 Attribute."_latin1;
+constexpr const char* kTooManyPrefixes =
+    "Die XML-Datei ist ungültig.\r\nDas Dokument vereinbart mehr als 16 Präfixe für Namensräume."_latin1;
 constexpr const char* kDocumentType =
     "Die XML-Datei ist ungültig.\r\nDie Dokumenttyp-Deklaration (DOCTYPE) ist zu umfangreich. Bitte das Dokument ohne sie schreiben."_latin1;
 
@@ -96,6 +98,47 @@ TEST_F(HostileDocumentsTest, ThousandAttributesAreReadAndOneMoreIsNot) {
 TEST_F(HostileDocumentsTest, HundredThousandAttributesOfHundredThousandElementsAreRead) {
     EXPECT_TRUE(updateAccounts(document(repeated("<x a='1'/>", 100000) + namedAccount("nach vielen"))));
     EXPECT_EQ(lastName(), "nach vielen");
+}
+
+/// `count` declarations of namespace prefixes, from `first` on.
+std::string prefixes(int count, int first = 0) {
+    std::string declarations;
+    for (int i = first; i < first + count; ++i)
+        declarations += " xmlns:p" + std::to_string(i) + "='u'";
+    return declarations;
+}
+
+TEST_F(HostileDocumentsTest, SixteenPrefixesAreReadAndOneMoreIsNot) {
+    const auto declaring = [](const std::string& declarations) {
+        return kontoliste("<konto" + declarations + "><blz>1</blz></konto>");
+    };
+    EXPECT_TRUE(updateAccounts(declaring(prefixes(16))));
+    EXPECT_TRUE(updateAccounts(declaring(prefixes(15) + " xmlns:s='u' s:a='' s:b='' s:c=''")));
+    EXPECT_TRUE(updateAccounts(declaring(prefixes(14) + " xmlns=''")));
+    EXPECT_TRUE(updateAccounts(declaring(prefixes(14) + " xmlns='u' xmlns:q='u'")));
+    expectRefused(declaring(prefixes(17)), kTooManyPrefixes);
+    expectRefused(declaring(prefixes(16) + " xmlns=''"), kTooManyPrefixes);
+}
+
+TEST_F(HostileDocumentsTest, PrefixDeclaredAgainAndAgainIsOne) {
+    EXPECT_TRUE(updateAccounts(document(repeated("<x xmlns:p='u'/>", 1000) + namedAccount("nach vielen"))));
+    EXPECT_EQ(lastName(), "nach vielen");
+}
+
+TEST_F(HostileDocumentsTest, PrefixesInForceForManyElements) {
+    expectRefused("<HomeBanking version=\"1.0\"" + prefixes(1000) + ">" + repeated("<x/>", 100000) + "</HomeBanking>",
+                  kTooManyPrefixes);
+}
+
+TEST_F(HostileDocumentsTest, PrefixesOnManyLevels) {
+    std::string deep;
+    for (int level = 0; level < 900; ++level)
+        deep += "<x" + prefixes(100, 100 * level) + ">";
+    expectRefused(document(deep + repeated("</x>", 900)), kTooManyPrefixes);
+}
+
+TEST_F(HostileDocumentsTest, PrefixesThatEntitiesHold) {
+    expectRefused(inSubset("<!ENTITY e \"<x" + prefixes(17) + "/>\">", "&e;"), kTooManyPrefixes);
 }
 
 TEST_F(HostileDocumentsTest, EntitiesOfModestSizeAreRead) {

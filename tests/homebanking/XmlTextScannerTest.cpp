@@ -80,6 +80,24 @@ TEST(XmlTextScannerTest, SeesTheLevelsThroughWhateverHidesThem) {
     }
 }
 
+TEST(XmlTextScannerTest, CountsWhatMayDeclareAPrefix) {
+    const struct {
+        const char16_t* text;
+        std::size_t prefixes;
+        const char* why;
+    } cases[] = {
+        {u"<a xmlns:p='u'><p:b xmlns:q=\"u\" xmlns:p='v'/></a>", 3, "in all elements, whether new or not"},
+        {u"<a xmlns='u' x='xmlns:p' p:x='1'>xmlns:p</a>", 0, "nothing else"},
+        {u"<!-- <a xmlns:p='u'> --><a><![CDATA[<a xmlns:p='u'>]]><?p <a xmlns:p='u'> ?></a>", 0,
+         "what is seen through"},
+        {u"<s:a s:b='1'></s:a>", 2, "a few names more"},
+    };
+    for (const auto& test : cases) {
+        for (const std::size_t piece : {std::u16string::npos, std::size_t{1}, std::size_t{3}})
+            EXPECT_EQ(scan(test.text, piece).prefixes(), test.prefixes) << test.why;
+    }
+}
+
 struct SubsetCase {
     const char16_t* text;
     int levels;
@@ -118,7 +136,12 @@ class Listener : public QXmlDefaultHandler {
 public:
     int deepest = 0;
     int mostAttributes = 0;
+    std::size_t prefixes = 0;
 
+    bool startPrefixMapping(const QString& prefix, const QString&) override {
+        prefixes += prefix.isEmpty() ? 0 : 1;
+        return true;
+    }
     bool startElement(const QString&, const QString&, const QString&, const QXmlAttributes& attributes) override {
         deepest = std::max(deepest, ++m_level);
         mostAttributes = std::max(mostAttributes, attributes.length());
@@ -134,11 +157,11 @@ private:
 };
 
 TEST(XmlTextScannerTest, NeverSeesLessThanTheReaderOfTheTree) {
-    const char16_t* const kPieces[] = {u"<a>",      u"<a>",  u"<a>",         u"</a>", u"</a>", u"<b",    u" x='1'",
-                                       u" y=\"2\"", u">",    u"/>",          u"</b>", u"<!--", u"-->",   u"<![CDATA[",
-                                       u"]]>",      u"]",    u"<?p ",        u"?>",   u"'",    u"\"",    u"-",
-                                       u"?",        u"Text", u"<!DOCTYPE a", u"[",    u"&lt;", u"&#60;", u"/",
-                                       u" ",        u"=",    u"<",           u"!"};
+    const char16_t* const kPieces[] = {
+        u"<a>",   u"<a>", u"<a>",  u"</a>", u"</a>", u"<b",        u" x='1'",      u" y=\"2\"", u" xmlns:p='u'",
+        u">",     u"/>",  u"</b>", u"<!--", u"-->",  u"<![CDATA[", u"]]>",         u"]",        u"<?p ",
+        u"?>",    u"'",   u"\"",   u"-",    u"?",    u"Text",      u"<!DOCTYPE a", u"[",        u"&lt;",
+        u"&#60;", u"/",   u" ",    u"=",    u"<",    u"!"};
     std::mt19937 random(20260117); // the same documents in every run
     int read = 0;
     for (int round = 0; round < 100000; ++round) {
@@ -164,6 +187,7 @@ TEST(XmlTextScannerTest, NeverSeesLessThanTheReaderOfTheTree) {
             continue;
         ASSERT_GE(scanner.deepestLevel(), listener.deepest) << document.toStdString();
         ASSERT_GE(scanner.mostAttributes(), listener.mostAttributes) << document.toStdString();
+        ASSERT_GE(scanner.prefixes(), listener.prefixes) << document.toStdString();
     }
     EXPECT_GT(read, 500) << "the documents are too broken to prove anything";
 }
