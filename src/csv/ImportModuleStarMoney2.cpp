@@ -41,7 +41,9 @@ constexpr int kRowWidth = 7;
 int leadingInteger(std::string_view text) {
     constexpr std::string_view kSpace = " \t\n\v\f\r";
     text.remove_prefix(std::min(text.find_first_not_of(kSpace), text.size()));
-    if (!text.empty() && text.front() == '+')
+    if (text.starts_with("+-")) // behind one sign, another is no number
+        return 0;
+    if (text.starts_with('+'))
         text.remove_prefix(1);
     int number = 0;
     const auto result = std::from_chars(text.data(), text.data() + text.size(), number);

@@ -131,6 +131,7 @@ TEST_F(StarMoney2, NamesThatBeginLikeAPurposeAreOne) {
         {"VWZ 3", "text", "blanks ahead of the number"},
         {"VWZ+3", "text", "a sign"},
         {"VWZ-3", "text", "a negative number is one"},
+        {"VWZ+-1", "text", "two signs are no number, which is the number 0"},
         {"VWZ99999999999999999999", "text", "a number of any length"},
         {"VWZ-99999999999999999999", "text", "the same, negative"},
         {"VWZ-1", "", "the number that stands for no purpose column"},
