@@ -18,6 +18,7 @@ enum class Problem {
     badDate,
     badAmount,
     valueRefused,
+    recordRefused,
     tableFull,
     noDate,
     bookkeepingRefused,

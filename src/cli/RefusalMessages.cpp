@@ -51,6 +51,8 @@ Message messageOf(const ModelWatch::Refusal& refusal, const FileReading& reading
                   const std::string& bytes) {
     if (refusal.field.empty())
         return Message::of(Problem::tableFull, {}, line);
+    if (!reading.traits().recordPerLine) // the import writes after reading, and stops here
+        return Message::of(Problem::recordRefused, {std::to_string(refusal.record), refusal.field}, line);
     const std::optional<Problem> problem = problemOf(refusal.field);
     const std::optional<int> column = columnOf(refusal.field, reading.columns());
     if (!problem || !column || !line)
