@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include "cli/JsonText.h"
 
+#include <algorithm>
 #include <cstdio>
 
 #include "cli/SafeText.h"
@@ -11,11 +12,7 @@ namespace {
 
 /// The serializer escapes ASCII control characters and nothing else.
 bool mayNeedEscape(std::string_view text) {
-    for (const char c : text) {
-        if (static_cast<unsigned char>(c) >= 0x7F)
-            return true;
-    }
-    return false;
+    return std::any_of(text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) >= 0x7F; });
 }
 
 void appendEscaped(std::string& out, char32_t code) {
@@ -33,7 +30,7 @@ void appendEscaped(std::string& out, char32_t code) {
 } // namespace
 
 std::string JsonText::of(const Json& json) {
-    const std::string dumped = json.dump(-1, ' ', false, Json::error_handler_t::replace);
+    std::string dumped = json.dump(-1, ' ', false, Json::error_handler_t::replace);
     if (!mayNeedEscape(dumped))
         return dumped;
     // Outside of strings JSON is ASCII, so that whatever is escaped stands in one.

@@ -18,7 +18,7 @@ constexpr std::size_t kMostName = 30;
 
 } // namespace
 
-Progress::Progress(bool visible, std::string name, std::size_t total)
+Progress::Progress(bool visible, const std::string& name, std::size_t total)
     : m_visible(visible && total > 0), m_name(TextWidth::fitted(name, kMostName)), m_total(total),
       m_next(Clock::now() + kBeforeFirst) {}
 

@@ -11,7 +11,7 @@
 class Progress {
 public:
     /// `total` steps, `name` (printable) for whom they are done.
-    Progress(bool visible, std::string name, std::size_t total);
+    Progress(bool visible, const std::string& name, std::size_t total);
     ~Progress();
     Progress(const Progress&) = delete;
     Progress& operator=(const Progress&) = delete;

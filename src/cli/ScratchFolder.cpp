@@ -81,7 +81,7 @@ ScratchFolder::ScratchFolder() : m_path(parent() + "/dmimport-XXXXXX") {
 ScratchFolder::~ScratchFolder() { removeAll(); }
 
 std::string ScratchFolder::entry(std::string_view name) {
-    const std::string path = m_path + "/" + std::string(name);
+    std::string path = m_path + "/" + std::string(name);
     const std::size_t count = g_entryCount;
     if (count == kMostEntries)
         throw std::logic_error("too many entries in the temporary folder");

@@ -67,7 +67,7 @@ public:
 
     void throwIfUnreadable() const {
         if (m_tree && m_tree->readError())
-            throw *m_tree->readError();
+            throw StoreError(*m_tree->readError());
     }
 
 private:
