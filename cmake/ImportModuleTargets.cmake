@@ -9,6 +9,12 @@ target_compile_features(import_module_options INTERFACE cxx_std_20)
 target_compile_options(import_module_options INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion
     $<$<BOOL:${IMPORT_MODULE_WERROR}>:-Werror>)
+# Many sources make one unit then: the compiler takes each of them for a header, and a local name that is
+# also a file's own elsewhere for a slip. The other builds, one unit per file, keep both warnings.
+if(CMAKE_UNITY_BUILD)
+    target_compile_options(import_module_options INTERFACE
+        -Wno-shadow $<$<CXX_COMPILER_ID:GNU>:-Wno-subobject-linkage>)
+endif()
 if(IMPORT_MODULE_SANITIZE)
     target_compile_options(import_module_options INTERFACE
         -fsanitize=${IMPORT_MODULE_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)

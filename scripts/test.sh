@@ -57,8 +57,8 @@ do_coverage() {
 
 do_tests() {
     step "Tests"
-    build dev
-    run_tests dev
+    build quick
+    run_tests quick
 }
 
 # In the order of the list above, whatever the order on the command line.

@@ -20,13 +20,13 @@ char found(const Lines& lines) {
     return finder.getBestDelimiter();
 }
 
-struct Case {
+struct DelimiterCase {
     Lines lines;
     char delimiter;
     const char* why;
 };
 
-const Case kCases[] = {
+const DelimiterCase kDelimiterCases[] = {
     {{}, '\0', "no line"},
     {{"a;b;c", "d;e;f", "g;h;i"}, ';', "the same number on every line, the last without a partner"},
     {{"a;b;c", "d;e;f"}, ';', "the same number on both lines"},
@@ -82,7 +82,7 @@ const Case kCases[] = {
 };
 
 TEST(DelimiterFinder, FindsWhatOccursEquallyOftenOnEveryLine) {
-    for (const Case& c : kCases)
+    for (const DelimiterCase& c : kDelimiterCases)
         EXPECT_EQ(static_cast<int>(found(c.lines)), static_cast<int>(c.delimiter)) << c.why;
 }
 

@@ -18,13 +18,13 @@ using ::testing::Each;
 using ::testing::ElementsAreArray;
 using ::testing::IsNull;
 
-struct Case {
+struct LineCase {
     const char* line;
     Fields fields;
     const char* why;
 };
 
-const Case kCases[] = {
+const LineCase kLineCases[] = {
     {"", {""}, "an empty line is one empty field"},
     {"a", {"a"}, "no delimiter"},
     {"a;b;c", {"a", "b", "c"}, "three fields"},
@@ -65,7 +65,7 @@ const Case kCases[] = {
 };
 
 TEST(ExtractColumns, SplitsAndUnquotesALine) {
-    for (const Case& c : kCases) {
+    for (const LineCase& c : kLineCases) {
         Module module;
         module.m_delimiter = ';';
         EXPECT_THAT(module.split(c.line), ElementsAreArray(c.fields)) << c.line << " - " << c.why;

@@ -6,13 +6,13 @@
 
 namespace {
 
-struct Case {
+struct QuoteCase {
     const char* text;
     const char* stripped;
     const char* why;
 };
 
-constexpr Case kCases[] = {
+constexpr QuoteCase kQuoteCases[] = {
     {"\"abc\"", "abc", "quotes at both ends"},
     {"abc\"", "abc\"", "a quote at the end alone"},
     {"\"abc", "\"abc", "a quote at the start alone"},
@@ -29,7 +29,7 @@ constexpr Case kCases[] = {
 };
 
 TEST(StripQuotes, TakesOffAPairOfQuotesAroundTheText) {
-    for (const Case& c : kCases)
+    for (const QuoteCase& c : kQuoteCases)
         EXPECT_EQ(stripQuotes(c.text), c.stripped) << c.text << " - " << c.why;
 }
 

@@ -5,8 +5,6 @@
 
 namespace {
 
-const DMDate kNoDate(0, 0, 0);
-
 /// How a program starts; taken before any test runs.
 const int g_orderAtStart = SmartDate::sm_order;
 const bool g_qifSyntaxAtStart = SmartDate::m_useQIFSyntax;

@@ -13,8 +13,6 @@ namespace {
 static_assert(!std::is_polymorphic_v<SmartDate>);
 static_assert(std::is_same_v<decltype(SmartDate::sm_CenturyWindowStart), unsigned short>);
 
-const DMDate kNoDate(0, 0, 0);
-
 class SmartDateTest : public SmartDateFixture {};
 
 TEST_F(SmartDateTest, ReadsThreeNumbersBetweenSeparators) {

@@ -13,8 +13,6 @@ namespace {
 
 using namespace HomeBankingXml;
 
-constexpr const char* kNoAccounts = "Keine Konten vorhanden.";
-
 /// The model starts with three accounts, all marked as present.
 class AccountListTest : public HomeBankingFixture<BankingXML> {
 protected:

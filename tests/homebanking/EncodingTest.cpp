@@ -12,7 +12,6 @@
 namespace {
 
 constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
-constexpr const char* kNotXml = "Die XML-Datei ist ungültig.\r\n"_latin1;
 
 struct EncodingCase {
     const char* codec;    ///< what the bytes are; Qt's name

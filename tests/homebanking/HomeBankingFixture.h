@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "framework/datamodel_api/DataModelApi.h"
+#include "framework/Latin1.h"
 #include "homebanking/XmlImportData.h"
 #include "support/FinanceModel.h"
 #include "support/SmartDateFixture.h"
@@ -35,6 +36,18 @@ inline std::string buchungsliste(const std::string& inside) {
 inline std::string buchung(const std::string& id, const std::string& rest = "<betrag>1,00</betrag>") {
     return "<buchung><id>" + id + "</id>" + rest + "</buchung>\n";
 }
+
+inline std::string repeated(const std::string& text, int times) {
+    std::string all;
+    all.reserve(text.size() * static_cast<std::size_t>(times));
+    for (int i = 0; i < times; ++i)
+        all += text;
+    return all;
+}
+
+/// Error texts: a document that is none, and one without accounts.
+inline constexpr const char* kNotXml = "Die XML-Datei ist ungültig.\r\n"_latin1;
+inline constexpr const char* kNoAccounts = "Keine Konten vorhanden.";
 
 } // namespace HomeBankingXml
 

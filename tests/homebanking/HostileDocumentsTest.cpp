@@ -24,21 +24,12 @@ namespace {
 
 using namespace HomeBankingXml;
 
-constexpr const char* kNotXml = "Die XML-Datei ist ungültig.\r\n"_latin1;
 constexpr const char* kTooManyAttributes =
     "Die XML-Datei ist ungültig.\r\nEin Element hat mehr als 1000 Attribute."_latin1;
 constexpr const char* kTooManyPrefixes =
     "Die XML-Datei ist ungültig.\r\nDas Dokument vereinbart mehr als 16 Präfixe für Namensräume."_latin1;
 constexpr const char* kDocumentType =
     "Die XML-Datei ist ungültig.\r\nDie Dokumenttyp-Deklaration (DOCTYPE) ist zu umfangreich. Bitte das Dokument ohne sie schreiben."_latin1;
-
-std::string repeated(const std::string& text, int times) {
-    std::string all;
-    all.reserve(text.size() * static_cast<std::size_t>(times));
-    for (int i = 0; i < times; ++i)
-        all += text;
-    return all;
-}
 
 std::string inSubset(const std::string& declarations, const std::string& inside) {
     return "<!DOCTYPE HomeBanking [" + declarations + "]><HomeBanking version=\"1.0\">" + inside + "</HomeBanking>";

@@ -14,7 +14,7 @@ namespace {
 
 using namespace HomeBankingXml;
 
-const std::string kAccounts = kontoliste(konto("10020030", "123456789", "Haushalt") + konto("1", "2", "Neu"));
+const std::string kTwoAccounts = kontoliste(konto("10020030", "123456789", "Haushalt") + konto("1", "2", "Neu"));
 const std::string kBookings = buchungsliste(buchung("1") + buchung("2"));
 
 class MissingNodesTest : public SmartDateFixture {
@@ -25,7 +25,7 @@ protected:
         data.setXmlContent(document.data(), document.size());
         return data;
     }
-    bool updateAccounts(Node* root) { return m_door.updateAccountList(input(kAccounts, root)); }
+    bool updateAccounts(Node* root) { return m_door.updateAccountList(input(kTwoAccounts, root)); }
     bool importBookings(Node* root) { return m_door.importAccountingEntries(input(kBookings, root)); }
     std::string error() const { return m_door.getErrorMsg(); }
 

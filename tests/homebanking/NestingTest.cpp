@@ -20,13 +20,6 @@ constexpr int kDeepest = 1000;
 constexpr const char* kTooDeep =
     "Die XML-Datei ist ungültig.\r\nDie Elemente sind mehr als 1000 Ebenen tief verschachtelt."_latin1;
 
-std::string repeated(const std::string& text, int times) {
-    std::string all;
-    for (int i = 0; i < times; ++i)
-        all += text;
-    return all;
-}
-
 std::string nested(int levels) { return repeated("<a>", levels) + repeated("</a>", levels); }
 
 class NestingTest : public testing::Test {

@@ -19,12 +19,10 @@ using namespace HomeBankingXml;
 
 constexpr const char* kCannotOpen = "Die Importdatei konnte nicht geöffnet werden."_latin1;
 constexpr const char* kNoData = "Keine Daten vorhanden";
-constexpr const char* kNotXml = "Die XML-Datei ist ungültig.\r\n"_latin1;
 constexpr const char* kNoVersion = "Die XML-Datei hat eine Keine Versionsnummer.";
 constexpr const char* kUnknownVersion = "Die XML-Datei hat eine unbekannte Versionsnummer.";
-constexpr const char* kNoAccounts = "Keine Konten vorhanden.";
 
-const std::string kAccounts = kontoliste(konto("10020030", "123456789", "Haushalt"));
+const std::string kOneAccount = kontoliste(konto("10020030", "123456789", "Haushalt"));
 
 class ReadingTest : public HomeBankingFixture<BankingXML> {
 protected:
@@ -36,13 +34,13 @@ protected:
 };
 
 TEST_F(ReadingTest, ReadsABuffer) {
-    EXPECT_TRUE(updateAccounts(kAccounts));
+    EXPECT_TRUE(updateAccounts(kOneAccount));
     EXPECT_EQ(account("Bezeichnung"), "Haushalt");
     EXPECT_EQ(error(), "");
 }
 
 TEST_F(ReadingTest, ReadsAFile) {
-    const TemporaryFile file(kAccounts, "konten.xml");
+    const TemporaryFile file(kOneAccount, "konten.xml");
     XmlImportData data;
     data.setImportTargetNode(m_model.root());
     data.setXmlFileName(file.path());
@@ -55,7 +53,7 @@ TEST_F(ReadingTest, LastSourceSetIsRead) {
     XmlImportData data;
     data.setImportTargetNode(m_model.root());
     data.setXmlFileName(file.path());
-    data.setXmlContent(kAccounts.data(), kAccounts.size());
+    data.setXmlContent(kOneAccount.data(), kOneAccount.size());
     EXPECT_TRUE(m_door.updateAccountList(data));
     EXPECT_EQ(account("Bezeichnung"), "Haushalt");
 
@@ -86,9 +84,9 @@ TEST_F(ReadingTest, NeitherFileNorBuffer) {
 }
 
 TEST_F(ReadingTest, BytesBeyondTheBufferSizeAreNotRead) {
-    const std::string more = kAccounts + "<noch mehr";
+    const std::string more = kOneAccount + "<noch mehr";
     XmlImportData data = input(more);
-    data.setXmlContent(more.data(), kAccounts.size());
+    data.setXmlContent(more.data(), kOneAccount.size());
     EXPECT_TRUE(m_door.updateAccountList(data));
 }
 
@@ -207,7 +205,7 @@ TEST_F(ReadingTest, MissingListFailsWithoutAText) {
 
 TEST_F(ReadingTest, UnknownDocumentTypeFailsWithoutAText) {
     for (const int type : {-1, 2, 99}) {
-        EXPECT_FALSE(m_door.openFileAndParseXml(input(kAccounts), static_cast<BankingXML::XmlDataType>(type)));
+        EXPECT_FALSE(m_door.openFileAndParseXml(input(kOneAccount), static_cast<BankingXML::XmlDataType>(type)));
         EXPECT_EQ(error(), "");
     }
     EXPECT_EQ(account("Bezeichnung"), "Girokonto");
@@ -221,7 +219,7 @@ TEST_F(ReadingTest, DocumentTypesHaveFixedNumbers) {
 TEST_F(ReadingTest, SuccessLeavesTheErrorText) {
     ASSERT_FALSE(updateAccounts("kein XML"));
     const std::string before = error();
-    EXPECT_TRUE(updateAccounts(kAccounts));
+    EXPECT_TRUE(updateAccounts(kOneAccount));
     EXPECT_EQ(error(), before);
 }
 
@@ -241,8 +239,8 @@ TEST_F(ReadingTest, NothingIsWrittenBeforeTheListIsFound) {
 
 TEST_F(ReadingTest, TargetIsTakenFromEveryInput) {
     const FinanceModel other;
-    EXPECT_TRUE(updateAccounts(kAccounts));
-    EXPECT_TRUE(m_door.updateAccountList(input(kAccounts, other)));
+    EXPECT_TRUE(updateAccounts(kOneAccount));
+    EXPECT_TRUE(m_door.updateAccountList(input(kOneAccount, other)));
     EXPECT_EQ(other.rows("HomeBankingImport"), 1);
     EXPECT_EQ(other.text("HomeBankingImport/1/Bezeichnung"), "Haushalt");
 }

@@ -17,7 +17,7 @@ constexpr Qif::E_AccountType kTransactionSections[] = {
     Qif::Bank,    Qif::Cash, Qif::CreditCard, Qif::Investment, Qif::OtherAsset, Qif::OtherLiability,
     Qif::Invoice, Qif::Tax,  Qif::Bill,       Qif::Ignored}; // the lines of one that are read at all
 
-constexpr const char* kBadDate = "(Zeile   0):Ung\xFCltiges Datumsformat";
+constexpr const char* kBadDateOfRecord = "(Zeile   0):Ung\xFCltiges Datumsformat";
 constexpr const char* kBadRecord = "(Zeile   0):Ung\xFCltiger Datensatz";
 
 std::string unknownEntry(const std::string& line) {
@@ -270,7 +270,7 @@ TEST_F(QifRecords, BadDateIsReportedAndRejectsTheLine) {
         ExposedQif module(Qif::Bank);
         ASSERT_TRUE(module.read({"Pshop", "T1"}));
         EXPECT_FALSE(module.parseAcountItem(line)) << line;
-        EXPECT_STREQ(module.getErrorMsg(), kBadDate) << line;
+        EXPECT_STREQ(module.getErrorMsg(), kBadDateOfRecord) << line;
         EXPECT_FALSE(module.m_atRecordStart) << line;
         EXPECT_EQ(module.m_currentDataSet.m_payee, "shop") << "the record is left as it was";
         EXPECT_EQ(module.m_currentDataSet.m_amount, "1") << "the record is left as it was";
@@ -282,7 +282,7 @@ TEST_F(QifRecords, DateThatContradictsTheOrderLearnedIsBad) {
     ExposedQif module(Qif::Bank);
     ASSERT_TRUE(module.read({"D12/31/04", "^"}));
     EXPECT_FALSE(module.parseAcountItem("D31/12/04"));
-    EXPECT_STREQ(module.getErrorMsg(), kBadDate);
+    EXPECT_STREQ(module.getErrorMsg(), kBadDateOfRecord);
 }
 
 TEST_F(QifRecords, OnlyTheEndOfARecordIsARecordBoundary) {

@@ -18,8 +18,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr const char* kUnreadable = "Fehler beim Analysieren der Daten aus der XML-Datei.";
-
 /// The front door never makes this module: a host makes its own.
 class StarMoney2 : public testing::Test {
 protected:

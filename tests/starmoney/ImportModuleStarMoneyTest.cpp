@@ -18,8 +18,6 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr const char* kUnreadable = "Fehler beim Analysieren der Daten aus der XML-Datei.";
-
 /// Every test runs through the module and through the front door.
 class StarMoney : public TextImport<ImportModuleStarMoney> {
 protected:

@@ -5,6 +5,9 @@
 #include <string>
 #include <vector>
 
+/// The error text of a file that cannot be read; it speaks of XML in these modules too.
+inline constexpr const char* kUnreadable = "Fehler beim Analysieren der Daten aus der XML-Datei.";
+
 /// Fields as one line of an export.
 inline std::string joined(const std::vector<std::string>& fields) {
     std::string line;

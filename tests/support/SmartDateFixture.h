@@ -6,6 +6,9 @@
 
 #include "dmwrite/SmartDate.h"
 
+/// What a text that is no date is read as.
+inline const DMDate kNoDate(0, 0, 0);
+
 /// What `SmartDate` learns is class-wide: every test starts and ends with the
 /// state of a fresh program.
 class SmartDateFixture : public testing::Test {
