@@ -15,6 +15,7 @@ struct FileCensus::Line {
     bool hasNul = false;
     bool isBlank = true;          // nothing but blanks and tabs
     bool isBlankBeforeNul = true; // nothing else before the first NUL byte
+    char first = '\0';            // of the content
 
     void add(std::string_view piece) {
         bytes += piece.size();
@@ -25,7 +26,10 @@ struct FileCensus::Line {
             const std::size_t content = piece.find_first_not_of(" \t");
             isBlankBeforeNul = content == std::string_view::npos || piece[content] == '\0';
         }
-        isBlank = isBlank && piece.find_first_not_of(" \t") == std::string_view::npos;
+        if (const std::size_t content = piece.find_first_not_of(" \t"); isBlank && content != std::string_view::npos) {
+            isBlank = false;
+            first = piece[content];
+        }
         hasNul = hasNul || piece.find('\0') != std::string_view::npos;
     }
 };
@@ -47,6 +51,8 @@ void FileCensus::add(const Line& line) {
     ++m_lines;
     if (line.isBlank)
         ++m_blankLines;
+    else
+        m_lastContent = {m_lines, line.first};
     if (line.isBlankBeforeNul)
         m_skipped.push_back(m_lines);
     if (line.bytes > kLongestLine && !m_tooLong)

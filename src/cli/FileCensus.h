@@ -33,6 +33,12 @@ public:
     /// The first line that the library has no room for.
     const std::optional<LongLine>& tooLong() const { return m_tooLong; }
     const std::vector<std::size_t>& withNul() const { return m_withNul; }
+    /// The last line with content, and what it begins with.
+    struct LastContent {
+        std::size_t line = 0; ///< 0 where no line has content
+        char first = '\0';
+    };
+    const LastContent& lastContent() const { return m_lastContent; }
     /// Lines with an odd number of quotes.
     const std::vector<std::size_t>& withOpenQuote() const { return m_withOpenQuote; }
 
@@ -44,6 +50,7 @@ private:
     std::size_t m_blankLines = 0;
     std::vector<std::size_t> m_skipped; // blank ones, and those that look so up to a NUL byte
     std::optional<LongLine> m_tooLong;
+    LastContent m_lastContent;
     std::vector<std::size_t> m_withNul;
     std::vector<std::size_t> m_withOpenQuote;
 };

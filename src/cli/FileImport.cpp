@@ -117,7 +117,7 @@ std::vector<std::size_t> FileImport::linesOfStored(const ModelWatch& watch, cons
     const std::size_t stored = added.count();
     const std::vector<std::size_t> all = m_reading.linesOfRecords(stored + watch.refusals().size());
     if (all.empty())
-        return all;
+        return {};
     std::vector<std::size_t> lines;
     lines.reserve(stored);
     auto refused = watch.refusals().begin();

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <system_error>
+#include <utility>
 
 #include "cli/FileChecksum.h"
 #include "cli/FileLines.h"
@@ -32,8 +33,8 @@ ReadingPlan planOf(InputFile& input, const ReadingOptions& options) {
 
 } // namespace
 
-FileReading::FileReading(const std::string& argument, const ReadingOptions& options)
-    : m_options(options), m_input(argument), m_plan(planOf(m_input, m_options)) {}
+FileReading::FileReading(const std::string& argument, ReadingOptions options)
+    : m_options(std::move(options)), m_input(argument), m_plan(planOf(m_input, m_options)) {}
 
 std::string FileReading::delimiterText() const {
     return delimiter() == '\t' ? "tab" : HostText::toUtf8({&m_plan.request.delimiter, 1});

@@ -12,7 +12,7 @@
 /// One file and how it will be read. Lives for one import or preview of the file.
 class FileReading {
 public:
-    FileReading(const std::string& argument, const ReadingOptions& options);
+    FileReading(const std::string& argument, ReadingOptions options);
 
     const std::string& argument() const { return m_input.argument(); }
     const FormatTraits& traits() const { return *m_plan.traits; }

@@ -90,7 +90,7 @@ void InputFile::look() {
 void InputFile::copy(int source) {
     const std::string path = folder().entry("copy");
     const Descriptor target(create(path));
-    std::array<char, 1 << 16> block;
+    std::array<char, 1 << 16> block{};
     for (;;) {
         const ssize_t count = ::read(source, block.data(), block.size());
         if (count < 0 && errno == EINTR)

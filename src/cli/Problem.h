@@ -15,6 +15,7 @@ enum class Problem {
     lineTooLong,
     nulByte,
     unbalancedQuote,
+    recordOpen,
     badDate,
     badAmount,
     valueRefused,

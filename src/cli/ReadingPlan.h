@@ -15,7 +15,7 @@
 /// How one file will be read: what the library is asked, what its lines are,
 /// and what is to be said of it before.
 struct ReadingPlan {
-    const FormatTraits* traits;
+    const FormatTraits* traits = nullptr; ///< not null once the plan is made
     RunRequest request;
     FileCensus census; ///< of what the library reads
     /// An error among them means that the file is not to be imported.

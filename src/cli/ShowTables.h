@@ -30,7 +30,7 @@ struct ShowTable {
 };
 
 struct ShownRow {
-    RecordNode* record;
+    RecordNode* record = nullptr;
     RecordNode* account = nullptr; ///< of a booking
 };
 

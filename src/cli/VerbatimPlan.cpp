@@ -8,6 +8,13 @@
 
 namespace {
 
+/// The library drops what no "^" ends, without a word.
+void noteOpenRecord(ReadingPlan& plan) {
+    const FileCensus::LastContent& last = plan.census.lastContent();
+    if (last.line != 0 && last.first != '^' && last.first != '!')
+        plan.messages.push_back(Message::of(Problem::recordOpen, {}, last.line));
+}
+
 void examineLines(const InputFile& input, ReadingPlan& plan) {
     try {
         plan.census = FileCensus::of(input.path());
@@ -16,8 +23,10 @@ void examineLines(const InputFile& input, ReadingPlan& plan) {
             Message::of(Problem::fileUnreadable, {input.argument(), systemText(error.code().value())}));
         return;
     }
-    if (!plan.traits->recordPerLine)
+    if (!plan.traits->recordPerLine) {
+        noteOpenRecord(plan);
         return;
+    }
     for (const std::size_t line : plan.census.withNul())
         plan.messages.push_back(Message::of(Problem::nulByte, {}, line));
     for (const std::size_t line : plan.census.withOpenQuote())

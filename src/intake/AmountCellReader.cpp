@@ -84,6 +84,7 @@ private:
     }
 
     bool peelCurrency() {
+        // NOLINTNEXTLINE(readability-use-anyofallof): the body changes what is read, which a predicate should not
         for (const std::string_view currency : kCurrencies) {
             const bool ahead = m_text.front() == currency.front() && m_text.starts_with(currency);
             if (ahead && !continuesWord(currency.size())) {
@@ -105,6 +106,7 @@ private:
     }
 
     bool peelSignWord() {
+        // NOLINTNEXTLINE(readability-use-anyofallof): as above
         for (const SignWord& row : kSignWords) {
             if (m_text.size() > row.word.size() && m_text.ends_with(row.word) &&
                 !TextTools::isAsciiLetter(m_text[m_text.size() - row.word.size() - 1])) {
@@ -127,6 +129,7 @@ bool isGroupMark(char c, char decimalMark) {
 }
 
 /// Digits with one decimal mark at most, grouped in threes or not at all.
+// NOLINTNEXTLINE(readability-function-cognitive-complexity): one pass over the characters, a rule for each kind
 bool readNumber(std::string_view text, char decimalMark, AmountCell& out) {
     int digits = 0;
     int sinceGroup = 0;

@@ -14,7 +14,7 @@ struct BalanceChain {
     struct Link {
         Money amount;
         Money balance; ///< behind the booking
-        int line;      ///< from 1
+        int line = 0;  ///< from 1
     };
 
     bool newestFirst = false; ///< the direction of time that fits better

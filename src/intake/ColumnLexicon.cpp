@@ -90,7 +90,7 @@ bool hasWordsAt(std::string_view folded, std::size_t at, std::string_view name) 
 } // namespace
 
 Role RoleScores::best() const {
-    const auto at = std::max_element(scores.begin(), scores.end());
+    const auto* const at = std::max_element(scores.begin(), scores.end());
     return *at > 0 ? static_cast<Role>(at - scores.begin()) : Role::ignore;
 }
 

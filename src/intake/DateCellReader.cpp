@@ -113,6 +113,7 @@ std::optional<DateCell> readNamed(Scanner scan) {
 
 /// Two or three numbers with separators between them; a word for the month is
 /// left to `readNamed`.
+// NOLINTNEXTLINE(readability-function-cognitive-complexity): one pass from left to right, a rule for each place
 std::optional<DateCell> readNumbers(Scanner scan) {
     const Scanner start = scan;
     DateCell cell;

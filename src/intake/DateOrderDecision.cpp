@@ -130,6 +130,7 @@ private:
             (contains(orders, DateOrder::dayMonthYear) && areAllWithPoints()))
             return orders;
         std::vector<int> spans;
+        spans.reserve(orders.size());
         for (const DateOrder order : orders)
             spans.push_back(DateSequence(order, daysIn(order)).span());
         const int least = *std::min_element(spans.begin(), spans.end());
@@ -209,6 +210,7 @@ private:
     /// Banks list bookings in order of time, and close together.
     std::optional<DateOrderDecision> fromSequence(const std::vector<DateOrder>& orders) {
         std::vector<DateSequence> sequences;
+        sequences.reserve(orders.size());
         for (const DateOrder order : orders) {
             sequences.emplace_back(order, daysIn(order));
         }

@@ -53,6 +53,7 @@ std::optional<DateSequence::Winner> DateSequence::mostLikely(const std::vector<D
             sorted.push_back(&reading);
     }
     std::vector<const DateSequence*> bySpan;
+    bySpan.reserve(readings.size());
     for (const DateSequence& reading : readings)
         bySpan.push_back(&reading);
     std::sort(bySpan.begin(), bySpan.end(), [](auto* a, auto* b) { return a->span() < b->span(); });

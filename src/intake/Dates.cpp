@@ -67,9 +67,9 @@ namespace DateCells {
 
 std::string_view name(DateOrder order) { return kOrderNames[static_cast<std::size_t>(order)].second; }
 
-std::optional<DateOrder> parseOrder(std::string_view text) {
+std::optional<DateOrder> parseOrder(std::string_view name) {
     for (const auto& [order, orderName] : kOrderNames) {
-        if (orderName == text)
+        if (orderName == name)
             return order;
     }
     return std::nullopt;

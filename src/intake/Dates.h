@@ -41,6 +41,6 @@ std::optional<DateOrder> parseOrder(std::string_view name);
 
 /// The numbers of a date, of any of the forms; nothing for any other text.
 /// Behind it a time of day and a time zone may stand, before it a weekday.
-std::optional<DateCell> read(std::string_view cell);
+std::optional<DateCell> read(std::string_view raw);
 
 } // namespace DateCells

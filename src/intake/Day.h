@@ -11,6 +11,7 @@ struct Day {
     int month = 0;
     int day = 0;
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): clang-tidy 14 takes the zero of the generated comparison for a pointer
     friend auto operator<=>(const Day&, const Day&) = default;
     bool exists() const;
     /// Days since 1 January of year 1, for distances.

@@ -121,8 +121,9 @@ private:
 
     void use(std::size_t record, LineUse use) {
         const auto& r = m_table.record(record);
-        for (int i = 0; i < r.lineCount; ++i)
-            m_result.lines[static_cast<std::size_t>(r.firstLine + i)] =
+        const auto first = static_cast<std::size_t>(r.firstLine);
+        for (std::size_t i = 0; i < static_cast<std::size_t>(r.lineCount); ++i)
+            m_result.lines[first + i] =
                 r.blank ? LineUse::blank : (i == 0 || use != LineUse::record ? use : LineUse::ignored);
     }
 
@@ -286,7 +287,7 @@ private:
         for (int column = 0; column < width; ++column) {
             if (column > 0)
                 text += m_result.delimiter;
-            const auto at = std::find(columns.begin(), columns.end(), column);
+            const auto* const at = std::find(columns.begin(), columns.end(), column);
             if (at != columns.end())
                 appendCell(text, values[static_cast<std::size_t>(at - columns.begin())], m_result.delimiter);
             else if (!BookingFields::isUsedUp(roles, column))

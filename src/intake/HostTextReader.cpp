@@ -87,6 +87,7 @@ bool isValidUtf8(std::string_view bytes) {
     return true;
 }
 
+// NOLINTNEXTLINE(readability-function-cognitive-complexity): the branches are those of the macro
 void readUtf8(std::string_view bytes, HostTextWriter& out) {
     const auto* text = reinterpret_cast<const std::uint8_t*>(bytes.data());
     const auto size = static_cast<std::int64_t>(bytes.size());

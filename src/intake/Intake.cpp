@@ -50,6 +50,7 @@ const std::vector<FixedLayout>& fixedLayouts() {
 /// The cells of a header, without blank ones behind the last name.
 std::vector<std::string> namesOf(const RecordTable& table, std::size_t record) {
     std::vector<std::string> names;
+    names.reserve(static_cast<std::size_t>(table.record(record).cellCount));
     for (int column = 0; column < table.record(record).cellCount; ++column)
         names.push_back(TextTools::toUtf8(TextTools::trim(table.cell(record, column))));
     while (!names.empty() && names.back().empty())

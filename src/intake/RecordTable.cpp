@@ -131,7 +131,7 @@ private:
             }
             if (oddQuote)
                 return false;
-            joined.append(current, from, std::string_view::npos);
+            joined.append(current.substr(from));
             joined += '\n';
         }
         return false;

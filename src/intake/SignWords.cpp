@@ -172,8 +172,8 @@ std::optional<AmountCell::Sign> ofKind(std::string_view cell) {
     if (cell.size() > kLongestKind)
         return std::nullopt;
     const std::string folded = TextTools::fold(cell);
-    const auto* row =
-        std::find_if(kKinds.begin(), kKinds.end(), [&](const Row& r) { return folded.find(r.word) != folded.npos; });
+    const auto* row = std::find_if(kKinds.begin(), kKinds.end(),
+                                   [&](const Row& r) { return folded.find(r.word) != std::string::npos; });
     return row == kKinds.end() ? std::nullopt : std::optional(row->sign);
 }
 

@@ -30,7 +30,7 @@ const icu::Transliterator* latinRules() {
         UErrorCode status = U_ZERO_ERROR;
         std::unique_ptr<icu::Transliterator> made(
             icu::Transliterator::createInstance("Any-Latin; NFKD; [:Mn:] Remove; Latin-ASCII", UTRANS_FORWARD, status));
-        return U_SUCCESS(status) ? std::move(made) : nullptr;
+        return U_SUCCESS(status) != 0 ? std::move(made) : nullptr;
     }();
     return rules.get();
 }

@@ -41,7 +41,7 @@ void RecordBinder::bind(SqliteStatement& statement, int firstParameter, const Re
             statement.bind(parameter, std::string_view(m_converted[i]));
             break;
         case DataType::eBoolean:
-            statement.bind(parameter, std::int64_t{field.flag()});
+            statement.bind(parameter, field.flag() ? std::int64_t{1} : std::int64_t{0});
             break;
         }
     }

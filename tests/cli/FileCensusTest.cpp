@@ -64,4 +64,15 @@ TEST(FileCensus, EmptyFileHasNoLines) {
     EXPECT_EQ(census("").readLines(), 0U);
 }
 
+TEST(FileCensus, LastLineWithContentIsKnown) {
+    const auto last = [](const std::string& bytes) {
+        const FileCensus::LastContent content = census(bytes).lastContent();
+        return std::to_string(content.line) + (content.line != 0 ? std::string(1, content.first) : "");
+    };
+    EXPECT_EQ(last(""), "0");
+    EXPECT_EQ(last("\n \n"), "0");
+    EXPECT_EQ(last("a\n \t^\n\n"), "2^");
+    EXPECT_EQ(last("a\nxyz"), "2x");
+}
+
 } // namespace

@@ -174,7 +174,7 @@ TEST_F(QifVerbatimTest, FileMustBeginWithAKnownHeader) {
          {"D1.5.98\nT1\n^\n", "!type:bank\nT1\n^\n", "!Type:Bank 2004\nT1\n^\n", "!Type:Prices\nT1\n^\n",
           "\xEF\xBB\xBF!Type:Bank\nT1\n^\n", "!Type:Bank\r\nT1\r\n^\r\n", "\t !Type:Bank\nT1\n^\n"})
         expectRefused(bytes, none);
-    expectRefused("\n \t\nD1.5.98\n", "(Zeile   3):Keine gültige QIF-Datei");
+    expectRefused("\n \t\nD1.5.98\n^\n", "(Zeile   3):Keine gültige QIF-Datei");
 }
 
 TEST_F(QifVerbatimTest, HeaderMayStandBetweenBlanksAndTabs) {
@@ -286,6 +286,15 @@ TEST_F(QifVerbatimTest, BudgetOfThreeHundredDigitsIsRefusedSafely) {
     EXPECT_EQ(file.at("result"), 1);
     EXPECT_EQ(file.at("importedCount"), 0);
     EXPECT_EQ(messages(file), "record-refused:-");
+}
+
+TEST_F(QifVerbatimTest, RecordThatNothingEndsIsTold) {
+    write("offen.qif", "!Type:Bank\nD13.5.2004\nT1.00\n^\nD14.5.2004\nT2.00\n\n");
+    const Json file = import({"offen.qif", "--verbatim"}, 0);
+    EXPECT_EQ(file.at("importedCount"), 1) << "the library does not read it";
+    EXPECT_EQ(messages(file), "record-open:6");
+    write("kopf.qif", "!Type:Bank\nD13.5.2004\nT1.00\n^\n!Type:Cash\n");
+    EXPECT_EQ(messages(import({"kopf.qif", "--verbatim"}, 0)), "") << "a section without records is none";
 }
 
 } // namespace
