@@ -31,7 +31,7 @@ public:
     const RecordSpec& spec() const { return *m_spec; }
     std::span<FieldNode> fields();
     std::span<const FieldNode> fields() const;
-    /// The nested table of that index; never null for an index of the spec.
+    /// The nested table of that index; never null for an index that the schema has.
     TableNode& table(std::size_t index);
     /// The same, but null where the table has not been asked for yet.
     TableNode* tableIfMade(std::size_t index) const;
