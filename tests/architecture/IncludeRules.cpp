@@ -61,7 +61,8 @@ const std::vector<Rule> kRules = {
     // Its dry runs, and the one list of a QIF file's sections.
     {"intake/LibraryReading.cpp", {"dmwrite/ImportIntoDMHelper.h", "framework/ImportFileBase.h", "intake/"}, {}},
     {"intake/QifFile.cpp", {"intake/", "qif/QifHeaderTable.h"}, {}},
-    {"cli/", kContract + kFrontDoors + Prefixes{"cli/", "datamodel/", "intake/", "store/"},
+    {"matching/", {"matching/"}, {}},
+    {"cli/", kContract + kFrontDoors + Prefixes{"cli/", "datamodel/", "intake/", "matching/", "store/"},
      kPosix + Prefixes{"CLI/", "nlohmann/", "openssl/"}},
     // What suits the whole process.
     {"cli/main.cpp", kContract + kFrontDoors + Prefixes{"cli/", "datamodel/", "intake/", "store/"},
