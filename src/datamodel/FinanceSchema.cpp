@@ -79,6 +79,16 @@ RecordSpec accountRow() {
             oneTable("DataSets", bookingRow())};
 }
 
+/// A list of bookings that was imported: what a session is to the file imports. Not the import library's.
+RecordSpec bookingListRow() {
+    return {{{"ImportDatum", DataType::eDate},
+             {"ImportFileName", DataType::eString},
+             {"Pruefsumme", DataType::eString},
+             {"Datensaetze", DataType::eInteger},
+             {"Bekannt", DataType::eInteger}},
+            {}};
+}
+
 } // namespace
 
 RecordSpec makeFinanceSchema() {
@@ -86,6 +96,7 @@ RecordSpec makeFinanceSchema() {
     tables.push_back({"DataSets", dataSetRow()});
     tables.push_back({"Importsessions", importSessionRow()});
     tables.push_back({"HomeBankingImport", accountRow()});
+    tables.push_back({"Buchungslisten", bookingListRow()});
     return {{{"NextImportID", DataType::eInteger},
              {"NextUniqueID", DataType::eInteger},
              {"LetztesImportDatum", DataType::eDate},

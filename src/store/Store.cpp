@@ -2,12 +2,15 @@
 // SPDX-License-Identifier: MIT
 #include "store/Store.h"
 
+#include <algorithm>
 #include <optional>
+#include <string_view>
 
 #include "datamodel/DataModel.h"
 #include "datamodel/TableSpec.h"
 #include "store/ModelWriter.h"
 #include "store/StoreDatabase.h"
+#include "store/StoredDaysQuery.h"
 #include "store/StoreTree.h"
 
 namespace {
@@ -37,6 +40,21 @@ public:
         if (m_database.isStale() || m_outdated)
             load();
         return *m_model;
+    }
+
+    void visitRecords(const StoredDays& days, const RowVisitor& use) {
+        static constexpr StoredDaysQuery::Columns kColumns{"Datum", nullptr};
+        beginAsLoaded();
+        if (m_tree)
+            StoredDaysQuery::visit(*m_tree, tableNamed("DataSets"), 0, kColumns, days, use);
+    }
+
+    void visitBookings(const RecordNode& account, const StoredDays& days, const RowVisitor& use) {
+        static constexpr StoredDaysQuery::Columns kColumns{"BuchungsDatum", "BuchungsID"};
+        beginAsLoaded();
+        if (m_tree && account.storeId() != 0)
+            StoredDaysQuery::visit(*m_tree, tableNamed("HomeBankingImport").nested().front(), account.storeId(),
+                                   kColumns, days, use);
     }
 
     void commit() {
@@ -73,6 +91,18 @@ public:
 private:
     static RecordNode& root(DataManager& manager) { return manager.model().root(); }
 
+    void beginAsLoaded() {
+        m_database.begin();
+        if (m_database.isStale())
+            throw StoreError(StoreErrorCode::changed, m_database.connection().path().given);
+    }
+
+    const TableLayout& tableNamed(std::string_view name) {
+        const auto& tables = m_tree->root().layout().nested();
+        return *std::find_if(tables.begin(), tables.end(),
+                             [name](const TableLayout& table) { return table.name() == name; });
+    }
+
     void load() {
         auto fresh = std::make_unique<DataManager>();
         if (m_model)
@@ -102,6 +132,12 @@ Store Store::open(const std::filesystem::path& path, Access access, std::chrono:
 }
 
 DataManager& Store::model() { return m_impl->model(); }
+
+void Store::visitRecords(const StoredDays& days, const RowVisitor& use) { m_impl->visitRecords(days, use); }
+
+void Store::visitBookings(const RecordNode& account, const StoredDays& days, const RowVisitor& use) {
+    m_impl->visitBookings(account, days, use);
+}
 
 void Store::commit() { m_impl->commit(); }
 

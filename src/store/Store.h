@@ -8,6 +8,7 @@
 
 #include "datamodel/DataManager.h"
 #include "store/StoreAccess.h"
+#include "store/StoredDays.h"
 #include "store/StoreError.h"
 
 /// A data model kept in a file. Rows are loaded when first asked for, and only
@@ -38,6 +39,13 @@ public:
     /// has written in between, the tree is a new one and old node pointers are dead, so ask
     /// for it at the start of every transaction. Throws StoreError.
     DataManager& model();
+
+    /// Shows the rows of some days as the file has them, without loading the tree
+    /// and without the changes that were made to it since the last commit. Throws StoreError.
+    void visitRecords(const StoredDays& days, const RowVisitor& use);
+    /// The same for the bookings of an account, a row of this store's tree; it
+    /// has none in the file while it is new.
+    void visitBookings(const RecordNode& account, const StoredDays& days, const RowVisitor& use);
 
     /// Writes all changes since the last commit as one transaction and releases
     /// the write lock. Throws StoreError; then the file is as it was and the

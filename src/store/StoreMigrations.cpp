@@ -128,9 +128,28 @@ ALTER TABLE Importsessions ADD COLUMN LetzterTag TEXT;
 ALTER TABLE Importsessions ADD COLUMN Zurueckgenommen INTEGER;
 )sql";
 
+// Which lists of bookings were imported, so that none is imported twice by mistake.
+constexpr char kVersion3[] = R"sql(
+CREATE TABLE Buchungslisten (
+    id INTEGER PRIMARY KEY,
+    ImportDatum TEXT,
+    ImportFileName TEXT,
+    Pruefsumme TEXT,
+    Datensaetze INTEGER,
+    Bekannt INTEGER
+);
+CREATE TRIGGER Buchungslisten_mehr AFTER INSERT ON Buchungslisten BEGIN
+    INSERT INTO Zeilenzahlen VALUES ('Buchungslisten', 0, 1) ON CONFLICT DO UPDATE SET Anzahl = Anzahl + 1;
+END;
+CREATE TRIGGER Buchungslisten_weniger AFTER DELETE ON Buchungslisten BEGIN
+    UPDATE Zeilenzahlen SET Anzahl = Anzahl - 1 WHERE Tabelle = 'Buchungslisten' AND KontoID = 0;
+END;
+)sql";
+
 constexpr StoreMigration kMigrations[] = {
     {1, kVersion1},
     {2, kVersion2},
+    {3, kVersion3},
 };
 
 } // namespace

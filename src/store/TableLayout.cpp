@@ -23,6 +23,7 @@ constexpr TableName kTableNames[] = {
     {kRootTable, "DataSets", "DataSets"},
     {kRootTable, "Importsessions", "Importsessions"},
     {kRootTable, "HomeBankingImport", "HomeBankingImport"},
+    {kRootTable, "Buchungslisten", "Buchungslisten"},
     {"HomeBankingImport", "DataSets", "HomeBankingDataSets"},
 };
 
@@ -77,11 +78,13 @@ std::string TableLayout::ownerClause(std::string_view last) const {
     return clause.empty() ? clause : " WHERE " + clause;
 }
 
-std::string TableLayout::selectSql() const {
+std::string TableLayout::selectSql() const { return selectWhereSql("id >= ?"); }
+
+std::string TableLayout::selectWhereSql(std::string_view condition) const {
     std::string columns = "id";
     for (const FieldSpec& field : m_spec->fields())
         columns.append(", ").append(field.name);
-    return "SELECT " + columns + " FROM " + m_name + ownerClause("id >= ?") + " ORDER BY id";
+    return "SELECT " + columns + " FROM " + m_name + ownerClause(condition) + " ORDER BY id";
 }
 
 std::string TableLayout::idsSql() const { return "SELECT id FROM " + m_name + ownerClause("") + " ORDER BY id"; }

@@ -35,6 +35,8 @@ public:
     /// Parameters: the owner if there is one, then the least id. Columns: the
     /// id, then the fields. In the order of the ids, which is that of the rows.
     std::string selectSql() const;
+    /// Parameters: the owner if there is one, then those of `condition`. Columns and order as above.
+    std::string selectWhereSql(std::string_view condition) const;
     /// Parameter: the owner if there is one. All ids in order.
     std::string idsSql() const;
     /// The same from the last one on.

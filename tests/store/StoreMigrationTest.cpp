@@ -12,6 +12,7 @@
 #include "store/Store.h"
 #include "store/StoreDatabase.h"
 #include "store/StoreFolder.h"
+#include "store/StoreVersions.h"
 
 using namespace ModelAccess;
 
@@ -61,7 +62,7 @@ TEST_F(StoreMigrationSteps, OlderStoreIsBroughtUpToDateWithItsRecords) {
         database.commit();
     }
     Sql sql(m_file);
-    EXPECT_EQ("3", sql.value("PRAGMA user_version"));
+    EXPECT_EQ(StoreVersions::next(), sql.value("PRAGMA user_version"));
     EXPECT_EQ((std::vector<std::string>{"1|EUR", "2|EUR", "3|EUR"}),
               sql.rows("SELECT UniqueID, Waehrung FROM DataSets ORDER BY id"));
     EXPECT_EQ("store-newer-version", storeErrorCodeOf([&] { Store::open(m_file, Store::Access::readWrite); }));
@@ -72,7 +73,7 @@ TEST_F(StoreMigrationSteps, NewStoreOfALaterReleaseGoesThroughAllSteps) {
         StoreDatabase database = LaterRelease(kAddColumn).open(m_folder / "neu.db", StoreAccess::readWrite);
         database.commit();
     }
-    EXPECT_EQ("3", Sql(m_folder / "neu.db").value("PRAGMA user_version"));
+    EXPECT_EQ(StoreVersions::next(), Sql(m_folder / "neu.db").value("PRAGMA user_version"));
     EXPECT_EQ(
         "1",
         Sql(m_folder / "neu.db").value("SELECT count(*) FROM pragma_table_info('DataSets') WHERE name = 'Waehrung'"));
@@ -87,7 +88,7 @@ TEST_F(StoreMigrationSteps, StepIsDoneOnce) {
 
 TEST_F(StoreMigrationSteps, StepThatIsNotCommittedLeavesTheOldVersion) {
     { StoreDatabase database = LaterRelease(kAddColumn).open(m_file, StoreAccess::readWrite); }
-    EXPECT_EQ("2", Sql(m_file).value("PRAGMA user_version"));
+    EXPECT_EQ(StoreVersions::ours(), Sql(m_file).value("PRAGMA user_version"));
     Store store = Store::open(m_file, Store::Access::readOnly);
     EXPECT_EQ((std::vector<int>{1, 2, 3}), recordNumbers(store.model()));
 }
@@ -101,8 +102,8 @@ TEST_F(StoreMigrationSteps, StepThatFailsLeavesTheStoreAsItWas) {
 
 TEST_F(StoreMigrationSteps, ReaderBringsAnOlderStoreUpToDate) {
     StoreDatabase database = LaterRelease(kAddColumn).open(m_file, StoreAccess::readOnly);
-    EXPECT_EQ(3, database.connection().number("PRAGMA user_version"));
-    EXPECT_EQ("3", Sql(m_file).value("PRAGMA user_version"));
+    EXPECT_EQ(StoreVersions::next(), std::to_string(database.connection().number("PRAGMA user_version")));
+    EXPECT_EQ(StoreVersions::next(), Sql(m_file).value("PRAGMA user_version"));
 }
 
 TEST_F(StoreMigrationSteps, ReaderWhoMayNotWriteSaysWhatIsMissing) {
@@ -120,7 +121,7 @@ TEST_F(StoreMigrationSteps, ReaderWhoMayNotWriteSaysWhatIsMissing) {
         return 3;
     });
     EXPECT_EQ(0, child.wait());
-    EXPECT_EQ("2", Sql(m_file).value("PRAGMA user_version"));
+    EXPECT_EQ(StoreVersions::ours(), Sql(m_file).value("PRAGMA user_version"));
 }
 
 TEST_F(StoreMigrationSteps, VersionThatBecomesNewerBetweenTwoTransactionsIsRefused) {

@@ -10,6 +10,7 @@
 #include "store/Sql.h"
 #include "store/Store.h"
 #include "store/StoreFolder.h"
+#include "store/StoreVersions.h"
 #include "store/TableLayout.h"
 
 namespace {
@@ -46,9 +47,9 @@ protected:
 TEST_F(StoreSchema, ColumnsOfTheFileAreTheFieldsOfTheModel) {
     const RecordSpec schema = makeFinanceSchema();
     expectColumns(TableLayout(schema));
-    EXPECT_EQ(5, m_tables);
+    EXPECT_EQ(6, m_tables);
     // Beside the model's tables only the row counts.
-    EXPECT_EQ("6", Sql(m_file).value("SELECT count(*) FROM sqlite_master WHERE type = 'table'"));
+    EXPECT_EQ("7", Sql(m_file).value("SELECT count(*) FROM sqlite_master WHERE type = 'table'"));
 }
 
 TEST_F(StoreSchema, TableWithoutANameInTheFileIsRefused) {
@@ -60,7 +61,7 @@ TEST_F(StoreSchema, TableWithoutANameInTheFileIsRefused) {
 
 TEST_F(StoreSchema, FileSaysWhatItIs) {
     EXPECT_EQ("1145913905", Sql(m_file).value("PRAGMA application_id")); // "DMB1"
-    EXPECT_EQ("2", Sql(m_file).value("PRAGMA user_version"));
+    EXPECT_EQ(StoreVersions::ours(), Sql(m_file).value("PRAGMA user_version"));
     EXPECT_EQ("ok", Sql(m_file).value("PRAGMA integrity_check"));
 }
 
