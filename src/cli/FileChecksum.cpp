@@ -10,8 +10,9 @@
 
 #include "cli/FileBytes.h"
 
-std::string FileChecksum::of(const std::string& path) {
-    const std::string bytes = FileBytes::read(path);
+std::string FileChecksum::of(const std::string& path) { return ofBytes(FileBytes::read(path)); }
+
+std::string FileChecksum::ofBytes(std::string_view bytes) {
     std::array<unsigned char, EVP_MAX_MD_SIZE> digest{};
     unsigned size = 0;
     if (EVP_Digest(bytes.data(), bytes.size(), digest.data(), &size, EVP_sha256(), nullptr) != 1)

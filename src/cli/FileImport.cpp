@@ -10,10 +10,14 @@
 #include "cli/HostText1252.h"
 #include "cli/LibraryFailure.h"
 #include "cli/LineAccount.h"
+#include "cli/ModelTables.h"
+#include "cli/NewOnly.h"
 #include "cli/RefusalMessages.h"
 #include "cli/SafeText.h"
 #include "cli/SessionBook.h"
+#include "cli/StoreComparison.h"
 #include "cli/SystemText.h"
+#include "cli/TrialModel.h"
 #include "datamodel/DataModel.h"
 #include "datamodel/TableSpec.h"
 
@@ -31,10 +35,10 @@ void FileImport::run(StoreAtPath& storeAtPath, const Console& console) {
         return;
     }
     Store& store = storeAtPath.forWriting();
-    if (m_wishes.again || !wasImportedBefore(store.model()))
-        importInto(store.model(), console);
+    if (m_wishes.again || m_wishes.newOnly || !wasImportedBefore(store.model()))
+        importInto(store, console);
     m_report.lines = LineAccount::of(m_reading, m_report);
-    const bool keeps = !m_failed || (m_wishes.keepPartial && m_report.importedCount > 0);
+    const bool keeps = (!m_failed && !broughtNothingNew()) || (m_wishes.keepPartial && m_report.importedCount > 0);
     if (keeps) {
         store.commit();
         m_report.committed = true;
@@ -70,7 +74,11 @@ bool FileImport::wasImportedBefore(DataManager& model) {
     return before.has_value();
 }
 
-void FileImport::importInto(DataManager& model, const Console& console) {
+void FileImport::importInto(Store& store, const Console& console) {
+    std::optional<TrialModel> trial;
+    if (m_wishes.newOnly)
+        trial.emplace(store.model());
+    DataManager& model = trial ? trial->model() : store.model();
     const bool takesUndated = m_wishes.allowUndated || !m_reading.traits().recordPerLine;
     model.model().schema().table("DataSets")->row.setTakesZeroDate("Datum", takesUndated);
 
@@ -82,11 +90,13 @@ void FileImport::importInto(DataManager& model, const Console& console) {
     if (!run.hasModule())
         fail(Message::of(Problem::formatUnsupported, {FormatTable::labelOf(m_reading.traits().format)}));
     else
-        judge(outcome, watch, added);
+        judge(outcome, watch, added, store);
     added.setFileName(HostText1252::transliterated(m_report.file));
+    if (trial && !broughtNothingNew())
+        trial->moveInto(store.model());
 }
 
-void FileImport::judge(const RunOutcome& outcome, const ModelWatch& watch, const NewRecords& added) {
+void FileImport::judge(const RunOutcome& outcome, const ModelWatch& watch, const NewRecords& added, Store& store) {
     m_report.result = outcome.result;
     m_report.importedCount = outcome.importedCount;
     m_report.errorText = outcome.errorText;
@@ -104,13 +114,29 @@ void FileImport::judge(const RunOutcome& outcome, const ModelWatch& watch, const
     if (outcome.result == 0 && watch.refusals().empty()) // a refused record that ended the import has its message
         fail(LibraryFailure::message(m_reading, outcome));
     m_failed = m_failed || outcome.result == 0;
-    const std::vector<std::size_t> lines = linesOfStored(watch, added);
+    std::vector<std::size_t> lines = linesOfStored(watch, added);
+    if (m_wishes.newOnly)
+        leaveOutKnown(added, lines, store);
     noteUndated(added, lines);
     countRecords(watch);
     SessionBook::keepLines(added, lines);
-    SessionBook::keepSession(added, {m_checksum, m_report.refusedCount, 0});
+    SessionBook::keepSession(added, {m_checksum, m_report.refusedCount, m_report.knownCount.value_or(0)});
     std::stable_sort(m_report.messages.begin(), m_report.messages.end(),
                      [](const Message& a, const Message& b) { return a.line < b.line; });
+}
+
+void FileImport::leaveOutKnown(const NewRecords& added, std::vector<std::size_t>& lines, Store& store) {
+    const std::size_t room =
+        TableNode::kMaxRows - ModelTables::table(store.model().model().root(), "DataSets").getNodeCount();
+    const std::vector<RecordNode*> rows = added.rows();
+    NewOnly chosen = NewOnly::of(rows, StoreComparison::ofRecords(store, rows), lines, room);
+    added.remove(chosen.leftOut);
+    lines = std::move(chosen.lines);
+    m_report.messages.insert(m_report.messages.end(), chosen.messages.begin(), chosen.messages.end());
+    m_report.knownCount = chosen.known;
+    m_report.refusedCount += chosen.withoutRoom;
+    m_report.importedCount -= static_cast<int>(chosen.leftOut.size());
+    m_failed = m_failed || (chosen.withoutRoom > 0 && m_report.importedCount == 0);
 }
 
 std::vector<std::size_t> FileImport::linesOfStored(const ModelWatch& watch, const NewRecords& added) const {
@@ -146,7 +172,8 @@ void FileImport::countRecords(const ModelWatch& watch) {
     RecordCounts counts;
     counts.imported = static_cast<std::size_t>(m_report.importedCount);
     counts.refused = m_report.refusedCount;
-    counts.found = counts.imported + counts.refused;
+    counts.known = m_report.knownCount;
+    counts.found = counts.imported + counts.refused + counts.known.value_or(0);
     if (!watch.refusals().empty()) {
         LibraryRun run; // those behind the one that stopped the import are seen by a simulated one only
         counts.found = m_reading.refusedBefore() + static_cast<std::size_t>(m_reading.simulate(run).importedCount);

@@ -16,7 +16,8 @@ struct ImportWishes {
     std::string info; ///< kept with the session; host bytes
     bool allowUndated = false;
     bool keepPartial = false;
-    bool again = false; ///< also what was imported before
+    bool again = false;   ///< also what was imported before
+    bool newOnly = false; ///< leaves out records that the store has
 };
 
 /// The import of one file into a store: one transaction, which a failure takes
@@ -32,8 +33,11 @@ public:
 
 private:
     void askForWords();
-    void importInto(DataManager& model, const Console& console);
-    void judge(const RunOutcome& outcome, const ModelWatch& watch, const NewRecords& added);
+    void importInto(Store& store, const Console& console);
+    void judge(const RunOutcome& outcome, const ModelWatch& watch, const NewRecords& added, Store& store);
+    /// Takes out of the new records, and of `lines`, which are theirs, what the store has or has no room for.
+    void leaveOutKnown(const NewRecords& added, std::vector<std::size_t>& lines, Store& store);
+    bool broughtNothingNew() const { return m_report.importedCount == 0 && m_report.knownCount.value_or(0) > 0; }
     bool takeChecksum();
     bool wasImportedBefore(DataManager& model);
     /// The line of each record that was stored, in order; empty where it is not known.

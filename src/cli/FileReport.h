@@ -27,6 +27,7 @@ struct RecordCounts {
     std::size_t found = 0;
     std::size_t imported = 0;
     std::size_t refused = 0;
+    std::optional<std::size_t> known; ///< left out because the store has them; none where nobody asked
 };
 
 /// What became of one file of an import.
@@ -36,6 +37,7 @@ struct FileReport {
     int result = 0; ///< the library's
     int importedCount = 0;
     std::size_t refusedCount = 0;
+    std::optional<std::size_t> knownCount; ///< left out because the store has them; none where nobody asked
     std::size_t undatedCount = 0;
     int sessionId = 0;     ///< 0 where the store keeps no session of this import
     std::string errorText; ///< the library's, UTF-8
@@ -53,6 +55,8 @@ Json json(const RecordCounts& records);
 Json json(const FileReport& report);
 /// `[{"line":7,"code":"bad-amount","text":"…"}]`
 Json json(const std::vector<Message>& messages);
+/// What is said of an import that found everything in the store already.
+std::string nothingNew(std::size_t known, std::size_t refused);
 /// One line for a person.
 std::string summary(const FileReport& report);
 

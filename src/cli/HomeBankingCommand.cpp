@@ -12,7 +12,7 @@ ExitStatus importHomeBanking(const HomeBankingDocument& document, const Options&
     FileReports reports(console);
     const auto importFile = [&](const std::string& name) {
         XmlDocumentFile file(name);
-        HomeBankingImport import(file, document, options.keepPartial);
+        HomeBankingImport import(file, document, {options.keepPartial, options.again, options.newOnly});
         const auto report = [&] {
             const HomeBankingReport& outcome = import.report();
             reports.add(outcome.file, outcome.json(document), outcome.summary(document), outcome.messages);

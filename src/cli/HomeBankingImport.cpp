@@ -5,16 +5,23 @@
 #include <algorithm>
 #include <utility>
 
+#include "cli/BookingListBook.h"
+#include "cli/FileChecksum.h"
 #include "cli/FreshDates.h"
 #include "cli/HomeBankingMessages.h"
-#include "cli/HomeBankingRows.h"
+#include "cli/HostText1252.h"
+#include "cli/ModelTables.h"
+#include "cli/NewOnly.h"
 #include "cli/SafeText.h"
+#include "cli/StoreComparison.h"
+#include "cli/TrialModel.h"
 #include "cli/XmlLines.h"
 #include "datamodel/DataModel.h"
 #include "datamodel/HostText.h"
 
-HomeBankingImport::HomeBankingImport(XmlDocumentFile& file, const HomeBankingDocument& document, bool keepPartial)
-    : m_file(file), m_document(document), m_keepPartial(keepPartial), m_text(file.bytes()),
+HomeBankingImport::HomeBankingImport(XmlDocumentFile& file, const HomeBankingDocument& document,
+                                     HomeBankingWishes wishes)
+    : m_file(file), m_document(document), m_wishes(wishes), m_text(file.bytes()),
       m_list(m_text.view(), document.listTag, document.recordTag) {
     m_report.file = file.argument();
 }
@@ -25,9 +32,12 @@ void HomeBankingImport::run(StoreAtPath& storeAtPath, const Console& console) {
         return;
     }
     Store& store = storeAtPath.forWriting();
-    importInto(store.model(), console);
+    m_checksum = FileChecksum::ofBytes(m_file.bytes());
+    if (m_document.isAccountList || m_wishes.again || m_wishes.newOnly || !wasImportedBefore(store.model()))
+        importInto(store, console);
     m_report.lines = XmlLines::count(m_text.view(), m_report.records.found > 0 ? m_list.records() : std::nullopt);
-    const bool keeps = !m_failed || (m_keepPartial && m_report.records.imported > 0);
+    const bool keeps =
+        (!m_failed && !m_report.broughtNothingNew()) || (m_wishes.keepPartial && m_report.records.imported > 0);
     if (keeps) {
         store.commit();
         m_report.committed = true;
@@ -49,7 +59,19 @@ void HomeBankingImport::askForWords() {
     fail(m_file.problem() ? *m_file.problem() : HomeBankingMessages::ofText(m_report.errorText));
 }
 
-void HomeBankingImport::importInto(DataManager& model, const Console& console) {
+/// An account list only says what accounts there are; of bookings a second time would double them.
+bool HomeBankingImport::wasImportedBefore(DataManager& model) {
+    const std::optional<BookingListBook::List> before = BookingListBook::find(model, m_checksum);
+    if (before)
+        fail(Message::of(Problem::listImportedBefore, {before->day, before->fileName}));
+    return before.has_value();
+}
+
+void HomeBankingImport::importInto(Store& store, const Console& console) {
+    std::optional<TrialModel> trial;
+    if (m_wishes.newOnly)
+        trial.emplace(store.model());
+    DataManager& model = trial ? trial->model() : store.model();
     Progress progress(console.showsProgress(), SafeText::printable(m_report.file), m_list.recordCount());
     const HomeBankingWatch watch(model.model(), progress);
     forgetEarlierDates(model.root());
@@ -63,11 +85,13 @@ void HomeBankingImport::importInto(DataManager& model, const Console& console) {
     else if (m_document.isAccountList)
         judgeAccounts(model);
     else
-        judgeBookings(watch, model);
+        judgeBookings(watch, model, store);
     if (watch.refusedBookkeeping())
         fail(Message::of(Problem::bookkeepingRefused, {*watch.refusedBookkeeping()}));
     if (m_failed && m_report.messages.empty())
         fail(HomeBankingMessages::ofFailure(m_document, m_list, m_report.errorText));
+    if (trial && !m_report.broughtNothingNew())
+        trial->moveInto(store.model());
 }
 
 bool HomeBankingImport::call(const XmlImportData& data) {
@@ -93,7 +117,7 @@ void HomeBankingImport::judgeAccounts(DataManager& model) {
         m_report.messages.push_back(HomeBankingMessages::listEnded(m_document, m_list, m_text));
 }
 
-void HomeBankingImport::judgeBookings(const HomeBankingWatch& watch, DataManager& model) {
+void HomeBankingImport::judgeBookings(const HomeBankingWatch& watch, DataManager& model, Store& store) {
     HomeBankingRows::Bookings bookings(model, watch.table(), watch.rows());
     const std::size_t number = watch.rows(); // of the booking that the library made last
     const bool unfinished = m_failed && bookings.lastIsUnfinished();
@@ -105,14 +129,35 @@ void HomeBankingImport::judgeBookings(const HomeBankingWatch& watch, DataManager
         fail(HomeBankingMessages::accountFull(m_list, m_text, number + 1));
     if (unfinished)
         bookings.removeLast(); // it lacks what came behind the refused value
+    if (m_wishes.newOnly)
+        leaveOutKnown(bookings, store);
     m_report.undatedCount = bookings.undated();
-    countRecords(number - (unfinished ? 1 : 0));
+    countRecords(bookings.count());
+    if (bookings.count() > 0)
+        BookingListBook::keep(
+            model, *bookings.account(),
+            {HostText1252::transliterated(m_report.file), m_checksum, bookings.count(), m_report.records.known.value_or(0)});
+}
+
+void HomeBankingImport::leaveOutKnown(HomeBankingRows::Bookings& bookings, Store& store) {
+    const std::vector<RecordNode*> rows = bookings.rows();
+    if (rows.empty())
+        return;
+    RecordNode& account =
+        *ModelTables::table(store.model().model().root(), "HomeBankingImport").row(bookings.accountRow());
+    const std::size_t room = TableNode::kMaxRows - ModelTables::table(account, "DataSets").getNodeCount();
+    const std::vector<std::size_t> lines = XmlLines::ofRecords(m_text.view(), m_list, rows.size());
+    NewOnly chosen = NewOnly::of(rows, StoreComparison::ofBookings(store, account, rows), lines, room);
+    bookings.remove(chosen.leftOut);
+    m_report.records.known = chosen.known;
+    m_report.messages.insert(m_report.messages.end(), chosen.messages.begin(), chosen.messages.end());
+    m_failed = m_failed || (chosen.withoutRoom > 0 && bookings.count() == 0);
 }
 
 void HomeBankingImport::countRecords(std::size_t imported) {
     m_report.records.imported = imported;
-    m_report.records.found = std::max(m_list.recordCount(), imported);
-    m_report.records.refused = m_report.records.found - imported;
+    m_report.records.found = std::max(m_list.recordCount(), imported + m_report.records.known.value_or(0));
+    m_report.records.refused = m_report.records.found - imported - m_report.records.known.value_or(0);
 }
 
 void HomeBankingImport::fail(Message message) {

@@ -7,6 +7,7 @@
 #include "cli/Console.h"
 #include "cli/HomeBankingDocument.h"
 #include "cli/HomeBankingReport.h"
+#include "cli/HomeBankingRows.h"
 #include "cli/HomeBankingWatch.h"
 #include "cli/StoreAtPath.h"
 #include "cli/XmlDocumentFile.h"
@@ -14,13 +15,20 @@
 #include "cli/XmlText.h"
 #include "datamodel/DataManager.h"
 
+/// What the person wants of it.
+struct HomeBankingWishes {
+    bool keepPartial = false;
+    bool again = false;   ///< also a list that was imported before
+    bool newOnly = false; ///< leaves out bookings that the store has
+};
+
 /// The import of one home-banking document into a store: one transaction, which
 /// a failure takes back unless the person wants to keep what was written before
 /// it.
 class HomeBankingImport {
 public:
     /// Both must outlive the object.
-    HomeBankingImport(XmlDocumentFile& file, const HomeBankingDocument& document, bool keepPartial);
+    HomeBankingImport(XmlDocumentFile& file, const HomeBankingDocument& document, HomeBankingWishes wishes);
 
     /// Throws StoreError; `report` then says how far it came.
     void run(StoreAtPath& store, const Console& console);
@@ -28,16 +36,19 @@ public:
 
 private:
     void askForWords();
-    void importInto(DataManager& model, const Console& console);
+    bool wasImportedBefore(DataManager& model);
+    void importInto(Store& store, const Console& console);
     bool call(const XmlImportData& data);
     void judgeAccounts(DataManager& model);
-    void judgeBookings(const HomeBankingWatch& watch, DataManager& model);
+    void judgeBookings(const HomeBankingWatch& watch, DataManager& model, Store& store);
+    void leaveOutKnown(HomeBankingRows::Bookings& bookings, Store& store);
     void countRecords(std::size_t imported);
     void fail(Message message);
 
     XmlDocumentFile& m_file;
     const HomeBankingDocument& m_document;
-    bool m_keepPartial;
+    HomeBankingWishes m_wishes;
+    std::string m_checksum;
     XmlText m_text;
     XmlList m_list;
     HomeBankingReport m_report;

@@ -12,6 +12,8 @@ Json HomeBankingReport::json(const HomeBankingDocument& document) const {
                    {"undatedCount", undatedCount},
                    {"errorText", errorText},
                    {"committed", committed}};
+    if (records.known)
+        object["knownCount"] = *records.known;
     if (document.isAccountList)
         object["accounts"] = accounts;
     object["lines"] = FileReportText::json(lines);
@@ -22,12 +24,16 @@ Json HomeBankingReport::json(const HomeBankingDocument& document) const {
 
 std::string HomeBankingReport::summary(const HomeBankingDocument& document) const {
     std::string text = SafeText::printable(file) + ": ";
+    if (!committed && broughtNothingNew())
+        return text + FileReportText::nothingNew(*records.known, records.refused);
     if (!committed)
         return text + "nicht übernommen; der Bestand ist unverändert.";
     text += std::to_string(records.imported) + " " + (records.imported == 1 ? document.one : document.many) + " " +
             document.done;
     if (records.refused != 0)
         text += ", " + std::to_string(records.refused) + " abgelehnt";
+    if (records.known.value_or(0) != 0)
+        text += ", " + std::to_string(*records.known) + " schon im Bestand";
     if (undatedCount != 0)
         text += ", davon " + std::to_string(undatedCount) + " ohne Datum";
     return text + ".";

@@ -14,6 +14,7 @@ struct HomeBankingReport {
     std::string file;    ///< the shell's bytes
     bool result = false; ///< the library's
     std::size_t undatedCount = 0;
+    bool broughtNothingNew() const { return records.imported == 0 && records.known.value_or(0) > 0; }
     std::string errorText; ///< the library's, UTF-8
     bool committed = false;
     std::size_t accounts = 0; ///< that an account list marked as present

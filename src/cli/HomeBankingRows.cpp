@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "cli/HomeBankingRows.h"
 
+#include <cstdint>
+
 #include "cli/HomeBankingDocument.h"
 #include "cli/ModelTables.h"
 #include "datamodel/DataModel.h"
@@ -11,9 +13,16 @@ namespace {
 
 TableNode& accounts(DataManager& model) { return ModelTables::table(model.model().root(), "HomeBankingImport"); }
 
+/// An account's bookings.
+struct Found {
+    TableNode* bookings = nullptr;
+    RecordNode* account = nullptr;
+    unsigned row = 0; ///< of the account
+};
+
 /// The first of the accounts' booking tables that somebody asked for and that is wanted.
 template <class Predicate>
-TableNode* findBookings(DataManager& model, Predicate isWanted) {
+Found findBookings(DataManager& model, Predicate isWanted) {
     TableNode& all = accounts(model);
     for (unsigned number = 1; number <= all.getNodeCount(); ++number) {
         RecordNode* account = all.rowIfLoaded(number);
@@ -21,9 +30,9 @@ TableNode* findBookings(DataManager& model, Predicate isWanted) {
             continue;
         TableNode* bookings = account->tableIfMade(*account->spec().tableIndex("DataSets"));
         if (bookings != nullptr && isWanted(*bookings))
-            return bookings;
+            return {bookings, account, number};
     }
-    return nullptr;
+    return {};
 }
 
 bool isFull(const TableNode& table) { return table.getNodeCount() == TableNode::kMaxRows; }
@@ -47,11 +56,15 @@ std::size_t presentAccounts(DataManager& model) {
 
 bool accountsAreFull(DataManager& model) { return isFull(accounts(model)); }
 
-bool anAccountIsFull(DataManager& model) { return findBookings(model, isFull) != nullptr; }
+bool anAccountIsFull(DataManager& model) { return findBookings(model, isFull).bookings != nullptr; }
 
-Bookings::Bookings(DataManager& model, const TableNode* table, std::size_t count)
-    : m_table(findBookings(model, [table](const TableNode& bookings) { return &bookings == table; })),
-      m_count(m_table != nullptr ? static_cast<unsigned>(count) : 0) {}
+Bookings::Bookings(DataManager& model, const TableNode* table, std::size_t count) {
+    const Found found = findBookings(model, [table](const TableNode& bookings) { return &bookings == table; });
+    m_table = found.bookings;
+    m_account = found.account;
+    m_accountRow = found.row;
+    m_count = m_table != nullptr ? static_cast<unsigned>(count) : 0;
+}
 
 bool Bookings::lastIsUnfinished() const {
     if (m_count == 0)
@@ -67,6 +80,26 @@ std::string Bookings::lastId() const {
 void Bookings::removeLast() {
     m_table->remove(m_table->row(m_table->getNodeCount()));
     --m_count;
+}
+
+std::vector<RecordNode*> Bookings::rows() const {
+    std::vector<RecordNode*> rows;
+    for (unsigned i = 0; i < m_count; ++i)
+        rows.push_back(m_table->row(m_table->getNodeCount() - m_count + 1 + i));
+    return rows;
+}
+
+void Bookings::remove(const std::vector<const RecordNode*>& rows) {
+    if (rows.empty())
+        return;
+    auto next = rows.begin();
+    m_count -= m_table->removeLoaded([&](const RecordNode& row) {
+        const bool found = next != rows.end() && *next == &row;
+        next += found ? 1 : 0;
+        return found;
+    });
+    ModelTables::field(*m_account, "NeueBuchungen")
+        .setValue(DataType::makeInteger(static_cast<std::int32_t>(m_count)), NDX(), 0);
 }
 
 std::size_t Bookings::undated() const {

@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 #include "datamodel/DataManager.h"
 #include "datamodel/TableNode.h"
@@ -26,11 +27,21 @@ public:
     bool lastIsUnfinished() const;
     std::string lastId() const; ///< UTF-8
     void removeLast();
+    /// In order, as many as `count` tells.
+    std::vector<RecordNode*> rows() const;
+    std::size_t count() const { return m_count; }
+    /// Their account, and its row; null and 0 without bookings.
+    RecordNode* account() const { return m_account; }
+    unsigned accountRow() const { return m_accountRow; }
+    /// Takes some of them, in order, out of the model, and has the account tell of the rest as new.
+    void remove(const std::vector<const RecordNode*>& rows);
     std::size_t undated() const;
 
 private:
     TableNode* m_table = nullptr;
-    unsigned m_count;
+    RecordNode* m_account = nullptr;
+    unsigned m_accountRow = 0;
+    unsigned m_count = 0;
 };
 
 } // namespace HomeBankingRows

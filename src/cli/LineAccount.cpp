@@ -53,7 +53,8 @@ LineCounts ofPrepared(const IntakeResult& intake, bool recordPerLine, std::size_
 } // namespace
 
 LineCounts LineAccount::of(const FileReading& reading, const FileReport& report) {
-    const std::size_t handled = static_cast<std::size_t>(report.importedCount) + report.refusedCount;
+    const std::size_t handled =
+        static_cast<std::size_t>(report.importedCount) + report.knownCount.value_or(0) + report.refusedCount;
     const bool wasRead = report.result != 0 || handled > 0;
     LineCounts lines = reading.intake() != nullptr
                            ? ofPrepared(*reading.intake(), reading.traits().recordPerLine, handled)

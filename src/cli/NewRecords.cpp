@@ -38,6 +38,15 @@ std::vector<RecordNode*> NewRecords::rows() const {
     return rows;
 }
 
+void NewRecords::remove(const std::vector<const RecordNode*>& rows) const {
+    auto next = rows.begin();
+    dataSets(m_model).removeLoaded([&](const RecordNode& row) {
+        const bool found = next != rows.end() && *next == &row;
+        next += found ? 1 : 0;
+        return found;
+    });
+}
+
 RecordNode* NewRecords::session() const {
     TableNode& table = sessions(m_model);
     return hasSession() ? table.row(table.getNodeCount()) : nullptr;

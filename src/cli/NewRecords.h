@@ -21,6 +21,8 @@ public:
     std::size_t count() const;
     /// The new rows, in order.
     std::vector<RecordNode*> rows() const;
+    /// Takes some of them, in order, out of the model.
+    void remove(const std::vector<const RecordNode*>& rows) const;
 
     /// The session of the import; 0 when it wrote none.
     int sessionId() const;

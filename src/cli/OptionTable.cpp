@@ -39,6 +39,8 @@ const OptionSpec kOptions[] = {
      "Datensätze, deren Datum sich nicht lesen lässt, ohne Datum übernehmen", "--allow-undated"},
     {"--again", nullptr, &Options::again, "die Datei importieren, auch wenn ihr Inhalt schon importiert wurde",
      "--again"},
+    {"--new-only", nullptr, &Options::newOnly,
+     "nur übernehmen, was noch nicht im Bestand ist; das Übrige wird aufgezählt", "--new-only"},
     {"--keep-partial", nullptr, &Options::keepPartial, "bei einem Fehler behalten, was bis dahin übernommen wurde",
      "--keep-partial"},
     {"--limit", "ANZAHL", &Options::limit, "höchstens so viele Zeilen", "--limit 20"},

@@ -31,6 +31,7 @@ struct Options {
     bool allowUndated = false;
     bool keepPartial = false;
     bool again = false;
+    bool newOnly = false;
     bool json = false;
     bool quiet = false;
 };

@@ -83,12 +83,55 @@ std::vector<std::string> cellsOf(const ImportRecordSet& preview, int row, const 
     return cells;
 }
 
+/// What stands before a row: how it stands to the store.
+std::string markText(const PreviewMarks::Row& row) {
+    if (!row.mark)
+        return "abgelehnt";
+    if (row.mark->isKnown())
+        return "bekannt";
+    return row.mark->isDoubtful() ? "fraglich" : "neu";
+}
+
+/// What stands behind it: the stored record that it resembles, and why.
+std::string likenessText(const PreviewMarks::Row& row) {
+    if (!row.mark || !(row.mark->isKnown() || row.mark->isDoubtful()))
+        return {};
+    return row.mark->place() + (row.mark->isDoubtful() ? ": " + row.mark->reason() : "");
+}
+
+std::string countsText(const PreviewMarks& marks) {
+    std::string text = std::to_string(marks.count(Resemblance::Mark::fresh)) + " neu, " +
+                       std::to_string(marks.count(Resemblance::Mark::known)) + " bekannt, " +
+                       std::to_string(marks.count(Resemblance::Mark::doubtful)) + " fraglich";
+    if (marks.refused() != 0)
+        text += ", " + std::to_string(marks.refused()) + " abgelehnt";
+    return text;
+}
+
+void addMarks(Json& object, const PreviewMarks& marks, std::size_t limit) {
+    object["newCount"] = marks.count(Resemblance::Mark::fresh);
+    object["knownCount"] = marks.count(Resemblance::Mark::known);
+    object["doubtfulCount"] = marks.count(Resemblance::Mark::doubtful);
+    object["refusedCount"] = marks.refused();
+    Json list = Json::array();
+    for (std::size_t i = 0; i < std::min(limit, marks.rows.size()); ++i) {
+        const PreviewMarks::Row& row = marks.rows[i];
+        Json mark = {{"record", i + 1}, {"line", row.line ? Json(*row.line) : Json(nullptr)}};
+        if (row.mark)
+            row.mark->addTo(mark);
+        else
+            mark["mark"] = "refused";
+        list.push_back(std::move(mark));
+    }
+    object["marks"] = std::move(list);
+}
+
 } // namespace
 
 namespace PreviewText {
 
 void writeJson(Console& console, const FileReading& reading, const LibraryRun& run, const RunOutcome& outcome,
-               const std::vector<Message>& messages, std::size_t limit) {
+               const std::vector<Message>& messages, const PreviewMarks* marks, std::size_t limit) {
     const ImportRecordSet& preview = run.preview();
     const Json head = {{"file", reading.argument()},
                        {"format", static_cast<int>(reading.traits().format)},
@@ -99,6 +142,8 @@ void writeJson(Console& console, const FileReading& reading, const LibraryRun& r
     Json tail = {{"rowCount", preview.getRowCount()},
                  {"importedCount", outcome.importedCount},
                  {"errorText", outcome.errorText}};
+    if (marks != nullptr)
+        addMarks(tail, *marks, limit);
     if (!messages.empty())
         tail["messages"] = FileReportText::json(messages);
 
@@ -110,27 +155,45 @@ void writeJson(Console& console, const FileReading& reading, const LibraryRun& r
     rows.end("," + JsonText::of(tail).substr(1) + "\n");
 }
 
-void writeTable(Console& console, const FileReading& reading, const LibraryRun& run, std::size_t limit) {
+void writeTable(Console& console, const FileReading& reading, const LibraryRun& run, const PreviewMarks* marks,
+                std::size_t limit) {
     const ImportRecordSet& preview = run.preview();
     const std::vector<ShownColumn> columns = shownColumns(reading, preview);
     const int rowCount = shownRows(preview, limit);
     if (!columns.empty()) {
+        // One record a row, in every format; only then a mark belongs to a row.
+        const bool marked = marks != nullptr && marks->rows.size() == static_cast<std::size_t>(preview.getRowCount());
+        const auto cells = [&](int row) {
+            std::vector<std::string> all = cellsOf(preview, row, columns);
+            if (marked) {
+                const PreviewMarks::Row& mark = marks->rows[static_cast<std::size_t>(row)];
+                all.insert(all.begin(), markText(mark));
+                all.push_back(likenessText(mark));
+            }
+            return all;
+        };
         std::vector<TableColumn> headings;
-        headings.reserve(columns.size());
+        headings.reserve(columns.size() + 2);
+        if (marked)
+            headings.push_back({"Bestand", TableColumn::Kind::fixed});
         for (const ShownColumn& column : columns)
             headings.push_back(column.table);
+        if (marked)
+            headings.push_back({"Gleicht", TableColumn::Kind::text});
         TableWriter table(console, std::move(headings));
         for (int row = 0; row < rowCount; ++row)
-            table.measure(cellsOf(preview, row, columns));
+            table.measure(cells(row));
         table.begin();
         for (int row = 0; row < rowCount; ++row)
-            table.write(cellsOf(preview, row, columns));
+            table.write(cells(row));
     }
     std::string summary = std::to_string(preview.getRowCount()) + (preview.getRowCount() == 1 ? " Zeile" : " Zeilen");
     if (rowCount < preview.getRowCount())
         summary = "die ersten " + std::to_string(rowCount) + " von " + summary;
     if (reading.traits().recordPerLine)
         summary += ", Trennzeichen „" + SafeText::printable(reading.delimiterText()) + "“";
+    if (marks != nullptr)
+        summary += "; " + countsText(*marks);
     console.summary(summary);
 }
 

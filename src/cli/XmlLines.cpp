@@ -37,6 +37,21 @@ std::size_t numberOf(std::string_view text, std::size_t offset) {
     return static_cast<std::size_t>(std::count(before.begin(), before.end(), '\n')) + 1;
 }
 
+std::vector<std::size_t> ofRecords(std::string_view text, const XmlList& list, std::size_t count) {
+    std::vector<std::size_t> lines;
+    std::size_t counted = 0; // bytes
+    std::size_t line = 1;
+    for (std::size_t number = 1; number <= count; ++number) {
+        const std::optional<std::size_t> offset = list.recordOffset(number);
+        if (!offset)
+            return {};
+        line += numberOf(text.substr(counted), *offset - counted) - 1;
+        counted = *offset;
+        lines.push_back(line);
+    }
+    return lines;
+}
+
 XmlList::Range around(std::string_view text, std::size_t offset) {
     const std::size_t before = text.substr(0, offset).rfind('\n');
     const std::size_t begin = before != std::string_view::npos ? before + 1 : 0;

@@ -119,7 +119,7 @@ TEST_F(BookingsCommandTest, KeepPartialKeepsTheBookingsBeforeAFailure) {
     EXPECT_EQ(records(file), "4 2 2");
     EXPECT_THAT(column("bookings", "BuchungsID"), ElementsAre("B-1", "B-2")) << "the third is not left half filled";
     EXPECT_EQ(show("accounts").at(0).at("NeueBuchungen"), nullptr) << "the account's books wait for a whole list";
-    const Result result = run({"bookings", "b.xml", "--keep-partial", "--store", kStore});
+    const Result result = run({"bookings", "b.xml", "--keep-partial", "--again", "--store", kStore});
     EXPECT_EQ(result.output, "b.xml: 2 Buchungen importiert, 2 abgelehnt.\n");
 }
 
@@ -233,7 +233,7 @@ TEST_F(BookingsCommandTest, EachFileIsOnItsOwn) {
 TEST_F(BookingsCommandTest, DateOrderIsLearnedAfreshForEachFile) {
     write("de.xml", bookingList(booking("D", "31.12.2004", "1,00")));
     write("us.xml", bookingList(booking("U", "12/31/2004", "1,00")));
-    EXPECT_EQ(call("bookings", {"us.xml", "de.xml", "us.xml"}, 0).at("files").size(), 3U);
+    EXPECT_EQ(call("bookings", {"us.xml", "de.xml", "us.xml", "--again"}, 0).at("files").size(), 3U);
     EXPECT_THAT(column("bookings", "BuchungsDatum"), ElementsAre("2004-12-31", "2004-12-31", "2004-12-31"));
 
     write("beides.xml", bookingList(booking("D", "31.12.2004", "1,00") + booking("U", "12/31/2004", "1,00")));
@@ -253,7 +253,7 @@ TEST_F(BookingsCommandTest, AnyFileNameIsRead) {
     for (const char* name : {"umsätze.xml", "konto€.xml", "日本.xml", "kaputt\xFF.xml", "umsatz", "b.csv", "[a,b]"}) {
         write(name, read("bestand.xml"));
         for (const char* locale : {"C", "de_DE.UTF-8"}) {
-            ChildProgram program = this->program({"bookings", name, "--store", kStore, "--quiet"});
+            ChildProgram program = this->program({"bookings", name, "--again", "--store", kStore, "--quiet"});
             program.environment["LC_ALL"] = locale;
             EXPECT_EQ(program.run().status, 0) << name << " " << locale;
         }

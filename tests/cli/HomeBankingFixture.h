@@ -21,6 +21,7 @@ protected:
         return onlyFile(call("accounts", std::move(arguments), status));
     }
     Json bookings(std::vector<std::string> arguments, int status) const {
+        arguments.emplace_back("--again");
         return onlyFile(call("bookings", std::move(arguments), status));
     }
 

@@ -49,7 +49,7 @@ const UsageCase kWrong[] = {
     {{"preview", "a.csv", "--limit", "99999999999999999999999"}, "ist keine Anzahl"},
     {{"preview", "a.csv", "--json=ja"}, "--json nimmt keinen Wert; schreiben Sie nur --json."},
     {{"preview", "a.csv", "--color", "bunt"}, "schreiben Sie auto, always oder never"},
-    {{"preview", "a.csv", "--store", "x"}, "kennt die Option „--store“ nicht"},
+    {{"inspect", "a.csv", "--store", "x"}, "kennt die Option „--store“ nicht"},
     {{"import", "--store", "x"}, "Es fehlt: DATEI."},
     {{"import", "a.csv", "--store", ""}, "--store: Der Name fehlt"},
     {{"import", "a.csv", "--columns", "0=Datum,1=Empfaenger"}, "Die Spalte für „Betrag“ fehlt"},

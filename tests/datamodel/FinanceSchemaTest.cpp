@@ -37,10 +37,11 @@ TEST(FinanceSchema, RootHoldsCountersMarkersAndTables) {
                         {"NextUniqueID", kInteger},
                         {"LetztesImportDatum", kDate},
                         {"NeueDatenVorhanden", kBoolean}});
-    ASSERT_EQ(root.tables().size(), 3U);
+    ASSERT_EQ(root.tables().size(), 4U);
     EXPECT_EQ(root.tables()[0].name, "DataSets");
     EXPECT_EQ(root.tables()[1].name, "Importsessions");
     EXPECT_EQ(root.tables()[2].name, "HomeBankingImport");
+    EXPECT_EQ(root.tables()[3].name, "Buchungslisten");
 }
 
 TEST(FinanceSchema, RecordsOfFileImportsMayBeUndated) {

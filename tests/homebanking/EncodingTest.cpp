@@ -11,6 +11,8 @@
 
 namespace {
 
+using HomeBankingXml::kNotXml;
+
 constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
 
 struct EncodingCase {

@@ -12,17 +12,17 @@
 
 namespace {
 
-const char* const kOptions[] = {"--store",     "--columns",       "--delimiter",    "--header",
-                                "--no-header", "--encoding",      "--date-order",   "--decimal",
-                                "--format",    "--profile",       "--save-profile", "--verbatim",
-                                "--info",      "--allow-undated", "--again",        "--keep-partial"};
+const char* const kOptions[] = {"--store",        "--columns",     "--delimiter", "--header",        "--no-header",
+                                "--encoding",     "--date-order",  "--decimal",   "--format",        "--profile",
+                                "--save-profile", "--verbatim",    "--info",      "--allow-undated", "--again",
+                                "--new-only",     "--keep-partial"};
 
 ImportWishes wishesOf(const Options& options) {
     const std::optional<std::string> info = HostText::fromUtf8(options.info.value_or(""));
     if (!info)
         throw UsageError("--info: „" + *options.info +
                          "“ enthält Zeichen, die sich nicht ablegen lassen; möglich sind die westeuropäischen.");
-    return {*info, options.allowUndated, options.keepPartial, options.again};
+    return {*info, options.allowUndated, options.keepPartial, options.again, options.newOnly};
 }
 
 void importFile(const std::string& file, const ReadingOptions& options, const ImportWishes& wishes, StoreAtPath& store,
