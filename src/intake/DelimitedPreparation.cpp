@@ -234,9 +234,7 @@ private:
     /// Whether the library splits the line as we do, and reads all of it.
     bool canKeep(std::size_t record) const {
         const auto& r = m_table.record(record);
-        const std::string_view line = m_lines.original(r.firstLine);
-        return r.plain && r.cellCount <= LibraryReading::kMaxColumns && line.find('\0') == std::string_view::npos &&
-               line.size() <= static_cast<std::size_t>(LibraryReading::kMaxLineLength);
+        return LibraryReading::splitsLine(r, m_lines.original(r.firstLine));
     }
 
     /// Writes the booking that was held back for lines that continue it.

@@ -112,7 +112,7 @@ void readDelimited(const PhysicalLines& physical, const InspectionOptions& optio
     result.reasons = plan.reasons;
     result.undecided = plan.undecided;
     if (result.format == Import::eFormatStarMoney) {
-        if (!plan.undecided && StarMoneyLayout::isReadRight(file)) {
+        if (!plan.undecided && StarMoneyLayout::isReadRight(file, physical)) {
             StarMoneyLayout::prepareFixed(physical, result.prepared);
             result.columns = StarMoneyLayout::columns();
             return;
@@ -206,6 +206,8 @@ IntakeResult readAsItStands(std::string_view bytes, const InspectionOptions& opt
     for (int line = 0; line < lines.count(); ++line)
         lines.keep(line);
     result.prepared.text = lines.text();
+    // The library would cut the line there, and all its cells behind.
+    std::replace(result.prepared.text.begin(), result.prepared.text.end(), '\0', ' ');
     result.prepared.untouched = result.prepared.text == bytes;
     result.prepared.header = result.header;
     result.prepared.delimiter = result.delimiter;

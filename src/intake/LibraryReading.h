@@ -6,6 +6,7 @@
 
 #include "intake/Day.h"
 #include "intake/Money.h"
+#include "intake/RecordTable.h"
 
 /// Dry runs: how the import library reads a cell that is handed over as it is.
 namespace LibraryReading {
@@ -14,6 +15,11 @@ namespace LibraryReading {
 extern const int kMaxLineLength;
 /// Columns of a line that it reads.
 extern const int kMaxColumns;
+
+/// Whether it splits `line` as it was split into `record`, and reads all of it.
+bool splitsLine(const RecordTable::Record& record, std::string_view line);
+/// Whether it passes over the line.
+bool skipsLine(std::string_view line);
 
 /// `amount` is what `cell` means, under whatever decimal mark the file has.
 bool readsAmount(std::string_view cell, const Money& amount);

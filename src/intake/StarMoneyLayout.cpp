@@ -58,7 +58,7 @@ InspectionOptions narrowed(const InspectionOptions& options) {
     return fixed;
 }
 
-bool isReadRight(const DelimitedFile& file) {
+bool isReadRight(const DelimitedFile& file, const PhysicalLines& physical) {
     const RecordTable& table = file.table;
     if (file.plan.tables.size() != 1 || file.plan.delimiter != kDelimiter)
         return false;
@@ -68,9 +68,10 @@ bool isReadRight(const DelimitedFile& file) {
         return false;
     const auto fits = [&](std::size_t i) {
         const auto& record = table.record(i);
-        if (record.blank && record.cellCount == 1)
+        const std::string_view line = physical.lines[static_cast<std::size_t>(record.firstLine)];
+        if (LibraryReading::skipsLine(line))
             return true;
-        if (record.cellCount != kColumns || record.lineCount != 1)
+        if (record.cellCount != kColumns || !LibraryReading::splitsLine(record, line))
             return false;
         if (i < plan.region.begin)
             return true;

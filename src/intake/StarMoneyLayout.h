@@ -23,8 +23,8 @@ bool isIn(std::span<const std::string_view> lines);
 InspectionOptions narrowed(const InspectionOptions& options);
 
 /// Whether every line that is not empty has the 21 fields, and the library
-/// reads every date and amount as `file`'s plan does.
-bool isReadRight(const DelimitedFile& file);
+/// splits it and reads its date and amount as `file`'s plan does.
+bool isReadRight(const DelimitedFile& file, const PhysicalLines& physical);
 
 /// Hands the lines over as they are, with line feeds.
 void prepareFixed(const PhysicalLines& physical, PreparedFile& prepared);

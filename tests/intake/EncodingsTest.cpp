@@ -107,6 +107,11 @@ TEST(Encodings, ZeroBytesInTextsBecomeBlanks) {
     EXPECT_THAT(file.messages(), ElementsAre("zero-bytes"));
 }
 
+TEST(Encodings, ZeroBytesOfAListShownAsItStandsBecomeBlanks) {
+    const std::string_view bytes("Datum;Text;Betrag\n01.02.2024;A\0B;-5,00\n", 39);
+    EXPECT_EQ(Intake::readAsItStands(bytes, {}).prepared.text, "Datum;Text;Betrag\n01.02.2024;A B;-5,00\n");
+}
+
 TEST(Encodings, UserOverrulesTheBytes) {
     InspectionOptions options;
     options.encoding = Encoding::latin1;

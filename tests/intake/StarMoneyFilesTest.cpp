@@ -122,4 +122,31 @@ TEST(StarMoneyFiles, OfTheLibrarysLayoutWithOtherDatesAreReadByTheirHeader) {
     EXPECT_THAT(file.bookings(), ElementsAre("17.03.2004 -26,93 Mueller | Miete"));
 }
 
+/// What the library would split otherwise, cut or refuse is not handed to it as it is.
+TEST(StarMoneyFiles, OfTheLibrarysLayoutWithLinesThatItMisreadsAreReadByTheirHeader) {
+    const std::string header =
+        "BuchDatum|AgName1|Betrag|BtgWaehr|" + purposeNames("VWZ", '|') + "BuchText|Kategorie|Unterkat\n";
+    const std::string rest = "|||||||||||||| LASTSCHRIFT|Wohnen|\n";
+    const std::string sound = "17.03.2004|Mueller|-26,93|EUR|Miete" + rest;
+    struct Case {
+        const char* what;
+        std::string line;
+        const char* booking;
+    };
+    const Case cases[] = {
+        {"quotes that open again", "18.03.2004|\"\"Mueller\"|-1,00|EUR|\"Miete\"" + rest, "18.03.2004 -1,00"},
+        {"a zero byte", "18.03.2004|Mueller|-1,00|EUR|Mie" + std::string(1, '\0') + "te" + rest, "18.03.2004 -1,00"},
+        {"a line too long", "18.03.2004|Mueller|-1,00|EUR|" + std::string(4100, 'x') + rest, nullptr},
+        {"quotes alone", "\"\"\n", nullptr},
+    };
+    for (const Case& c : cases) {
+        const FileReading file = starMoney(header + c.line + sound);
+        EXPECT_EQ(file.intake().format, Import::eFormatCSV) << c.what;
+        if (c.booking != nullptr)
+            EXPECT_THAT(file.datesAndAmounts(), ElementsAre(c.booking, "17.03.2004 -26,93")) << c.what;
+        else
+            EXPECT_THAT(file.datesAndAmounts(), ElementsAre("17.03.2004 -26,93")) << c.what;
+    }
+}
+
 } // namespace
