@@ -7,6 +7,7 @@
 # usage: scripts/install-packages.sh [GROUP...]
 #   build   what building, testing and trying the project needs (the default)
 #   check   what the further checks need: formatting, lint, a second compiler, coverage
+#   fuzz    what scripts/fuzz.sh needs
 set -euo pipefail
 
 # The one list of packages. CMakeLists.txt files name the libraries they link.
@@ -14,6 +15,7 @@ declare -A packages=(
     [build]="g++ cmake ninja-build pkg-config libgtest-dev libgmock-dev libbenchmark-dev
              libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev qtbase5-dev libicu-dev libssl-dev libxml2-utils binutils locales"
     [check]="clang clang-format clang-tidy gcovr"
+    [fuzz]="clang libclang-rt-dev llvm"
 )
 
 die() {
