@@ -19,12 +19,12 @@ ExitStatus FileReports::collect(const std::function<void()>& work) {
     return m_clean ? ExitStatus::done : ExitStatus::refused;
 }
 
-void FileReports::add(const std::string& file, const Json& json, const std::string& summary,
+void FileReports::add(const std::string& file, const std::function<Json()>& json, const std::string& summary,
                       const std::vector<Message>& messages) {
     m_clean = m_clean &&
               std::none_of(messages.begin(), messages.end(), [](const Message& message) { return message.isError(); });
     if (m_console.json())
-        m_files.push_back(json);
+        m_files.push_back(json());
     else
         m_console.summary(summary);
     m_console.report(file, messages);

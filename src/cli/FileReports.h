@@ -19,9 +19,9 @@ public:
     /// StoreError of it becomes part of the document, and the status.
     ExitStatus collect(const std::function<void()>& work);
 
-    /// What is to be said of a file (the shell's bytes): to the machine, in a
-    /// line to a person, and of its problems to both.
-    void add(const std::string& file, const Json& json, const std::string& summary,
+    /// What is to be said of a file (the shell's bytes): to the machine, who is not always
+    /// there, in a line to a person, and of its problems to both.
+    void add(const std::string& file, const std::function<Json()>& json, const std::string& summary,
              const std::vector<Message>& messages);
 
 private:

@@ -15,7 +15,8 @@ ExitStatus importHomeBanking(const HomeBankingDocument& document, const Options&
         HomeBankingImport import(file, document, {options.keepPartial, options.again, options.newOnly});
         const auto report = [&] {
             const HomeBankingReport& outcome = import.report();
-            reports.add(outcome.file, outcome.json(document), outcome.summary(document), outcome.messages);
+            reports.add(
+                outcome.file, [&] { return outcome.json(document); }, outcome.summary(document), outcome.messages);
         };
         try {
             import.run(store, console);

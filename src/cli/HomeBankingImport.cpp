@@ -134,9 +134,9 @@ void HomeBankingImport::judgeBookings(const HomeBankingWatch& watch, DataManager
     m_report.undatedCount = bookings.undated();
     countRecords(bookings.count());
     if (bookings.count() > 0)
-        BookingListBook::keep(
-            model, *bookings.account(),
-            {HostText1252::transliterated(m_report.file), m_checksum, bookings.count(), m_report.records.known.value_or(0)});
+        BookingListBook::keep(model, *bookings.account(),
+                              {HostText1252::transliterated(m_report.file), m_checksum, bookings.count(),
+                               m_report.records.known.value_or(0)});
 }
 
 void HomeBankingImport::leaveOutKnown(HomeBankingRows::Bookings& bookings, Store& store) {

@@ -108,6 +108,14 @@ void BookingMatcher::dropRepeatedNumbers(std::vector<Item>& file) {
 }
 
 void BookingMatcher::run(const Step& step, const std::vector<Item>& file, std::vector<Resemblance>& answers) {
+    const auto isWanted = [&](std::size_t i) {
+        return answers[i].mark == Resemblance::Mark::fresh && step.hash(file[i]) != 0;
+    };
+    std::size_t first = 0;
+    while (first < file.size() && !isWanted(first))
+        ++first;
+    if (first == file.size())
+        return;
     HashGroups groups;
     for (std::size_t stored = 0; stored < m_stored.size(); ++stored) {
         const std::uint64_t hash = m_taken[stored] ? 0 : step.hash(m_stored[stored]);
@@ -115,12 +123,11 @@ void BookingMatcher::run(const Step& step, const std::vector<Item>& file, std::v
             groups.add(hash, stored);
     }
     groups.sort();
-    for (std::size_t i = 0; i < file.size(); ++i) {
-        const std::uint64_t hash = answers[i].mark == Resemblance::Mark::fresh ? step.hash(file[i]) : 0;
-        if (hash == 0)
+    for (std::size_t i = first; i < file.size(); ++i) {
+        if (!isWanted(i))
             continue;
         const std::size_t found = groups.find(
-            hash, kMostCandidates, [this](std::size_t stored) { return m_taken[stored]; },
+            step.hash(file[i]), kMostCandidates, [this](std::size_t stored) { return m_taken[stored]; },
             [&](std::size_t stored) { return step.accepts(file[i], m_stored[stored]); });
         if (found == HashGroups::kNone)
             continue;

@@ -42,11 +42,14 @@ constexpr std::array<char, 256> kTable = makeTable();
 namespace TextFolding {
 
 void append(std::string& out, std::string_view text) {
+    const std::size_t before = out.size();
+    out.resize(before + text.size());
+    char* end = out.data() + before;
     for (const char c : text) {
-        const char folded = kTable[static_cast<unsigned char>(c)];
-        if (folded != kNothing)
-            out += folded;
+        *end = kTable[static_cast<unsigned char>(c)];
+        end += *end != kNothing ? 1 : 0;
     }
+    out.resize(static_cast<std::size_t>(end - out.data()));
 }
 
 std::string of(std::string_view text) {

@@ -31,7 +31,8 @@ void importFile(const std::string& file, const ReadingOptions& options, const Im
     FileImport import(reading, wishes);
     const auto report = [&] {
         const FileReport& outcome = import.report();
-        reports.add(file, FileReportText::json(outcome), FileReportText::summary(outcome), outcome.messages);
+        reports.add(
+            file, [&] { return FileReportText::json(outcome); }, FileReportText::summary(outcome), outcome.messages);
     };
     try {
         import.run(store, console);
