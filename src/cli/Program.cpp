@@ -7,6 +7,7 @@
 
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
+#include "cli/LeftScratch.h"
 #include "cli/StoreErrorJson.h"
 #include "cli/UsageError.h"
 
@@ -26,6 +27,7 @@ ExitStatus run(const CommandLine& line, Console& console) {
 ExitStatus runChecked(int count, const char* const* arguments, std::optional<Console>& console) {
     const CommandLine line = CommandLine::parse(count, arguments);
     console.emplace(line.options);
+    LeftScratch::removeAll();
     if (line.command != nullptr)
         return run(line, *console);
     console->write(line.answer);

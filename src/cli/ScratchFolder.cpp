@@ -13,6 +13,7 @@
 #include <system_error>
 #include <unistd.h>
 
+#include "cli/LeftScratch.h"
 #include "datamodel/HostText.h"
 
 namespace {
@@ -67,18 +68,27 @@ std::string ScratchFolder::parent() {
     return usable ? named : "/tmp";
 }
 
-ScratchFolder::ScratchFolder() : m_path(parent() + "/dmimport-XXXXXX") {
+ScratchFolder::ScratchFolder() {
     if (g_exists)
         throw std::logic_error("one temporary folder at a time");
     watchSignals();
-    if (::mkdtemp(m_path.data()) == nullptr)
-        throw std::system_error(errno, std::generic_category());
+    while (m_hold < 0) { // again where somebody took it for left behind before it was held
+        m_path = parent() + "/" + LeftScratch::kPrefix + "XXXXXX";
+        if (::mkdtemp(m_path.data()) == nullptr)
+            throw std::system_error(errno, std::generic_category());
+        m_hold = LeftScratch::hold(m_path.c_str());
+        if (m_hold < 0 && ::rmdir(m_path.c_str()) == 0)
+            throw std::system_error(EMFILE, std::generic_category()); // it was still there: there is no descriptor left
+    }
     fill(g_folder, m_path);
     g_entryCount = 0;
     g_exists = true;
 }
 
-ScratchFolder::~ScratchFolder() { removeAll(); }
+ScratchFolder::~ScratchFolder() {
+    removeAll();
+    ::close(m_hold);
+}
 
 std::string ScratchFolder::entry(std::string_view name) {
     std::string path = m_path + "/" + std::string(name);

@@ -6,7 +6,8 @@
 #include <string_view>
 
 /// A folder for the user alone that lives as long as this object; what was put
-/// into it goes with it, also when the program is told to end by a signal.
+/// into it goes with it, also when the program is told to end by a signal. What a
+/// killed program left, the next one removes (LeftScratch).
 /// There is at most one at a time in a process.
 ///
 /// Its path is always Latin-1 that the library can be given.
@@ -29,4 +30,5 @@ public:
 
 private:
     std::string m_path;
+    int m_hold = -1; ///< keeps others from removing it
 };

@@ -15,7 +15,7 @@ struct Rule {
     Prefixes systems;       ///< starts of what may be included in brackets beside the standard library
 };
 
-const Prefixes kPosix = {"unistd.h", "fcntl.h", "poll.h", "signal.h", "termios.h", "sys/"};
+const Prefixes kPosix = {"unistd.h", "dirent.h", "fcntl.h", "poll.h", "signal.h", "termios.h", "sys/"};
 
 Prefixes operator+(Prefixes left, const Prefixes& right) {
     left.insert(left.end(), right.begin(), right.end());

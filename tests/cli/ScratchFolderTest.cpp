@@ -9,6 +9,7 @@
 
 #include <gmock/gmock.h>
 
+#include "cli/LeftScratch.h"
 #include "support/TemporaryFile.h"
 
 namespace {
@@ -49,6 +50,50 @@ TEST(ScratchFolder, IsForTheUserAloneAndGoesAwayWithItsEntries) {
         EXPECT_FALSE(fs::is_empty(folder.path()));
     }
     EXPECT_TRUE(fs::is_empty(parent.path()));
+}
+
+/// A folder as a killed program leaves it.
+fs::path leave(const std::string& parent, const char* name) {
+    const fs::path folder = fs::path(parent) / name;
+    fs::create_directory(folder);
+    fs::permissions(folder, fs::perms::owner_all);
+    std::ofstream(folder / "prepared.csv") << "geheim";
+    fs::create_symlink("/etc/passwd", folder / "import.csv");
+    return folder;
+}
+
+TEST(ScratchFolder, WhatAKilledProgramLeftIsRemovedByTheNext) {
+    const TemporaryFolder parent;
+    const OtherParent other(parent.path());
+    const fs::path left = leave(parent.path(), "dmimport-aB3xYz");
+    LeftScratch::removeAll();
+    EXPECT_FALSE(fs::exists(left));
+    EXPECT_TRUE(fs::exists("/etc/passwd"));
+}
+
+TEST(ScratchFolder, OneInUseIsNotRemoved) {
+    const TemporaryFolder parent;
+    const OtherParent other(parent.path());
+    ScratchFolder folder;
+    std::ofstream(folder.entry("copy")) << "x";
+    LeftScratch::removeAll();
+    EXPECT_TRUE(fs::exists(folder.path() + "/copy"));
+}
+
+TEST(ScratchFolder, OnlyFoldersOfOursAreRemoved) {
+    const TemporaryFolder parent;
+    const OtherParent other(parent.path());
+    const fs::path kept[] = {leave(parent.path(), "dmimport-short"), leave(parent.path(), "dmimport-toolong7"),
+                             leave(parent.path(), "anders-aB3xYz"), leave(parent.path(), "dmimport-Public")};
+    fs::permissions(kept[3], fs::perms::owner_all | fs::perms::others_read); // we make none that others may read
+    const fs::path target = leave(parent.path(), "ziel");
+    fs::create_symlink(target, fs::path(parent.path()) / "dmimport-aaaaaa");
+    std::ofstream(fs::path(parent.path()) / "dmimport-bbbbbb") << "a file";
+    LeftScratch::removeAll();
+    for (const fs::path& folder : kept)
+        EXPECT_TRUE(fs::exists(folder / "prepared.csv")) << folder;
+    EXPECT_TRUE(fs::exists(target / "prepared.csv")) << "through a link";
+    EXPECT_TRUE(fs::exists(fs::path(parent.path()) / "dmimport-bbbbbb"));
 }
 
 TEST(ScratchFolder, ThereIsOneAtATimeWithFewEntries) {
