@@ -29,6 +29,16 @@ if(IMPORT_MODULE_COVERAGE)
     target_link_options(import_module_options INTERFACE --coverage)
 endif()
 
+# Hardening for what is installed; instrumented builds have better watchmen, and without optimisation the
+# checked functions of the C library are not to be had.
+set(import_module_hardened "$<AND:$<CONFIG:Release,RelWithDebInfo>,$<NOT:$<BOOL:${IMPORT_MODULE_SANITIZE}>>>")
+target_compile_options(import_module_options INTERFACE
+    "$<${import_module_hardened}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2;-fstack-protector-strong;-fstack-clash-protection>")
+target_link_options(import_module_options INTERFACE
+    "$<${import_module_hardened}:LINKER:-z,relro,-z,now,-z,noexecstack>")
+include(CheckPIESupported)
+check_pie_supported(LANGUAGES CXX)
+
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
