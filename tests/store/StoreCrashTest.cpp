@@ -179,34 +179,40 @@ TEST_F(StoreCrash, NewStoreOfZerosIsEmptiedByItsJournal) {
 TEST_F(StoreCrash, FailureOfAnyChangeToAFileLeavesTheStoreAsItWas) {
     struct Case {
         int failure;
+        bool once; ///< else everything after it fails, too
         const char* code;
         const char* why;
     };
     const Case cases[] = {
-        {SQLITE_FULL, "store-full", "disk full"},
-        {SQLITE_IOERR_WRITE, "store-io", "broken disk"},
+        {SQLITE_FULL, false, "store-full", "disk full"},
+        {SQLITE_IOERR_WRITE, false, "store-io", "broken disk"},
+        {SQLITE_FULL, true, "store-full", "disk full for a moment"},
+        {SQLITE_IOERR_WRITE, true, "store-io", "one change that is lost"},
     };
     for (const Case& c : cases) {
         bool finished = false;
         for (int fatal = 1; !finished; ++fatal) {
             SCOPED_TRACE(std::string(c.why) + " from change number " + std::to_string(fatal));
             reset();
+            bool hit = false;
+            bool failed = false;
             {
-                bool broken = false;
                 FaultyVfs vfs([&](const FaultyVfs::Operation& operation) {
-                    broken = broken || operation.number == fatal;
-                    return broken && operation.kind != "delete" ? c.failure : SQLITE_OK;
+                    hit = hit || operation.number == fatal;
+                    const bool fails = c.once ? operation.number == fatal : hit && operation.kind != "delete";
+                    return fails ? c.failure : SQLITE_OK;
                 });
                 Store store = Store::open(m_file, Store::Access::readWrite);
                 import(store.model());
                 try {
                     store.commit();
-                    finished = true;
                 } catch (const StoreError& error) {
                     EXPECT_STREQ(c.code, error.codeText());
+                    failed = true;
                 }
             }
-            ASSERT_EQ(finished ? m_after : m_before, stored());
+            finished = !hit;
+            ASSERT_EQ(failed ? m_before : m_after, stored());
             expectSound();
         }
     }
