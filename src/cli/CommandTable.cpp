@@ -7,8 +7,8 @@
 namespace {
 
 const Command* const kCommands[] = {
-    &kFormatsCommand,  &kInspectCommand, &kPreviewCommand, &kImportCommand,   &kAccountsCommand,
-    &kBookingsCommand, &kShowCommand,    &kUndoCommand,    &kProfilesCommand,
+    &kFormatsCommand,  &kInspectCommand, &kPreviewCommand, &kImportCommand, &kAccountsCommand,
+    &kBookingsCommand, &kShowCommand,    &kUndoCommand,    &kExportCommand, &kProfilesCommand,
 };
 
 } // namespace

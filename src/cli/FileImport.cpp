@@ -7,6 +7,7 @@
 #include <system_error>
 #include <utility>
 
+#include "cli/FullTexts.h"
 #include "cli/HostText1252.h"
 #include "cli/LibraryFailure.h"
 #include "cli/LineAccount.h"
@@ -79,7 +80,7 @@ void FileImport::importInto(Store& store, const Console& console) {
     if (m_wishes.newOnly)
         trial.emplace(store.model());
     DataManager& model = trial ? trial->model() : store.model();
-    const bool takesUndated = m_wishes.allowUndated || !m_reading.traits().recordPerLine;
+    const bool takesUndated = m_wishes.allowUndated || m_reading.mayBeUndated();
     model.model().schema().table("DataSets")->row.setTakesZeroDate("Datum", takesUndated);
 
     Progress progress(console.showsProgress(), SafeText::printable(m_report.file), m_reading.census().readLines());
@@ -115,6 +116,7 @@ void FileImport::judge(const RunOutcome& outcome, const ModelWatch& watch, const
         fail(LibraryFailure::message(m_reading, outcome));
     m_failed = m_failed || outcome.result == 0;
     std::vector<std::size_t> lines = linesOfStored(watch, added);
+    FullTexts::restore(added, lines, m_reading.intake());
     if (m_wishes.newOnly)
         leaveOutKnown(added, lines, store);
     noteUndated(added, lines);
@@ -160,8 +162,8 @@ std::vector<std::size_t> FileImport::linesOfStored(const ModelWatch& watch, cons
 void FileImport::noteUndated(const NewRecords& added, const std::vector<std::size_t>& lines) {
     const std::vector<std::size_t> undated = added.undated();
     m_report.undatedCount = undated.size();
-    if (!m_reading.traits().recordPerLine)
-        return; // budgets and categories never have a date
+    if (m_reading.mayBeUndated())
+        return;
     for (const std::size_t row : undated)
         m_report.messages.push_back(
             Message::of(Problem::noDate, {}, lines.empty() ? std::nullopt : std::optional(lines[row - 1])));

@@ -37,6 +37,9 @@ public:
     /// for its own words, if `mayBeAsked` says so.
     bool isUnreadable() const { return m_input.problem().has_value(); }
     bool mayBeAsked() const { return m_plan.mayBeAsked; }
+    /// Whether records without a date are in order: QIF budgets and categories have none, and what our own export
+    /// writes without one had none before.
+    bool mayBeUndated() const { return !traits().recordPerLine || (intake() != nullptr && intake()->ownExport); }
     /// Records that the library does not get, since it would refuse or misread them.
     std::size_t refusedBefore() const;
 

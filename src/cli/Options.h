@@ -23,6 +23,11 @@ struct Options {
     std::optional<std::string> profile;
     std::optional<std::string> saveProfile;
     std::optional<std::string> color;
+    std::optional<std::string> to;
+    std::optional<std::string> session;
+    std::optional<std::string> since;
+    std::optional<std::string> until;
+    std::optional<std::string> account;
 
     bool unassigned = false;
     bool header = false;

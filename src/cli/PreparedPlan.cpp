@@ -57,6 +57,8 @@ void showAsItStands(ReadingPlan& plan, std::string_view bytes, const ReadingOpti
 /// With what a profile of the user's says, if one goes with the file.
 IntakeResult inspected(ReadingPlan& plan, std::string_view bytes, const ReadingOptions& options) {
     IntakeResult result = Intake::read(bytes, plan.traits->format, options.forInspection());
+    if (result.ownExport && !options.profile)
+        return result; // a profile of a bank that has some of the same names is not for it
     if (options.saveProfile && !options.profile)
         return result; // the new profile is made from the file itself
     const ProfileChoice choice = ProfileChoice::of(options.profile, result.headerNames);

@@ -9,6 +9,7 @@
 #include "intake/DelimitedPreparation.h"
 #include "intake/HostTextReader.h"
 #include "intake/MessageTexts.h"
+#include "intake/OwnExport.h"
 #include "intake/PreparedLines.h"
 #include "intake/QifPreparation.h"
 #include "intake/StarMoneyLayout.h"
@@ -132,6 +133,20 @@ void readDelimited(const PhysicalLines& physical, const InspectionOptions& optio
     addMessages(std::move(remarks), result.prepared.messages);
 }
 
+void adopt(OwnExport&& own, IntakeResult& result) {
+    result.ownExport = true;
+    result.delimiter = own.prepared.delimiter;
+    result.header = true;
+    result.headerNames = std::move(own.headerNames);
+    result.columns = std::move(own.columns);
+    result.undecided = std::move(own.undecided);
+    result.confidence = result.undecided ? 0.3 : 1.0;
+    result.dateOrder = DateOrder::dayMonthYear;
+    result.decimalMark = OwnExport::kDecimalMark;
+    result.reasons.push_back({1, -1, "Die Überschriften sind die von „dmimport export“; damit liegt alles fest."});
+    result.prepared = std::move(own.prepared);
+}
+
 void readQif(const PhysicalLines& physical, const InspectionOptions& options, IntakeResult& result) {
     PreparedQif qif = QifPreparation::prepare(physical, options);
     result.prepared = std::move(qif.file);
@@ -173,6 +188,8 @@ IntakeResult read(std::string_view bytes, Import::E_SupportedImportFormats forma
 
     if (format == Import::eFormatQIF) {
         readQif(physical, options, result);
+    } else if (auto own = format == Import::eFormatCSV ? OwnExport::read(text.text, physical, options) : std::nullopt) {
+        adopt(std::move(*own), result);
     } else {
         const bool isStarMoney = format == Import::eFormatStarMoney && StarMoneyLayout::isIn(physical.lines);
         InspectionOptions narrowed = isStarMoney ? StarMoneyLayout::narrowed(options) : options;

@@ -40,6 +40,8 @@ struct IntakeResult {
     /// Set when nothing is imported, with what would decide it.
     std::optional<IntakeMessage> undecided;
     PreparedFile prepared;
+    /// Written by this program itself: what has no date there never had one.
+    bool ownExport = false;
     /// Records the file holds, where they span lines (QIF); otherwise one a line.
     std::optional<int> recordsFound;
 };

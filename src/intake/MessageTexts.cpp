@@ -33,6 +33,10 @@ constexpr std::array<Text, static_cast<std::size_t>(MessageId::count)> kTexts = 
      "Kein Betrag hat ein Vorzeichen, obwohl in der Tabelle Einnahmen und Ausgaben stehen. Bitte die Ausgaben in der "
      "Datei mit einem Minus versehen; sollen alle Beträge gelten, wie sie dastehen, die Spalten mit --columns "
      "festlegen."},
+    {MessageId::ownExportDamaged, "export-damaged", false,
+     "Die Datei ist eine Ausgabe von „dmimport export“, aber hier beschädigt: Ein Anführungszeichen oder ein "
+     "Trennzeichen fehlt oder ist zu viel. Bitte die Zeile berichtigen, oder mit --columns sagen, wie die Datei zu "
+     "lesen ist."},
     {MessageId::badDate, "bad-date", true,
      "Das Datum „%1“ ist nicht lesbar. Bitte die Zeile in der Datei berichtigen oder mit --allow-undated ohne Datum "
      "übernehmen."},

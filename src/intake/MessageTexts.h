@@ -21,6 +21,7 @@ enum class MessageId {
     dateOrderAmbiguous,
     amountColumnAmbiguous,
     signAmbiguous,
+    ownExportDamaged,
     // A record is not taken.
     badDate,
     wordForDate,

@@ -32,4 +32,12 @@ struct PreparedFile {
     std::vector<LineUse> lines;      ///< one element a line of the file
     int refused = 0;                 ///< records that are not in `text`
     std::vector<IntakeMessage> messages;
+    /// A text that no line of `text` can hold, which has a shorter one in its
+    /// place. Whoever imports puts the text into the record afterwards.
+    struct FullText {
+        int line; ///< of the record, from 1
+        const char* field;
+        std::string text; ///< host bytes
+    };
+    std::vector<FullText> fullTexts; ///< in the order of their lines
 };

@@ -12,4 +12,5 @@ extern const Command kAccountsCommand;
 extern const Command kBookingsCommand;
 extern const Command kShowCommand;
 extern const Command kUndoCommand;
+extern const Command kExportCommand;
 extern const Command kProfilesCommand;

@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The ImportModule authors
 // SPDX-License-Identifier: MIT
-#include <charconv>
 #include <string>
 #include <vector>
 
@@ -11,21 +10,13 @@
 #include "cli/JsonText.h"
 #include "cli/Message.h"
 #include "cli/ModelTables.h"
+#include "cli/SessionNumber.h"
 #include "cli/StoreAtPath.h"
-#include "cli/UsageError.h"
 #include "datamodel/DataModel.h"
 
 namespace {
 
 const char* const kOptions[] = {"--store"};
-
-int sessionNumber(const std::string& text) {
-    int number = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    if (error != std::errc() || end != text.data() + text.size() || number < 1)
-        throw UsageError("„" + text + "“ ist keine Nummer einer Sitzung; „dmimport show sessions“ zeigt sie.");
-    return number;
-}
 
 int number(RecordNode& record, const char* field) { return ModelTables::field(record, field).getValue().getInt(); }
 bool flag(RecordNode& record, const char* field) { return ModelTables::field(record, field).getValue().getBoolean(); }
