@@ -43,7 +43,7 @@ const OptionSpec kOptions[] = {
      "nur übernehmen, was noch nicht im Bestand ist; das Übrige wird aufgezählt", "--new-only"},
     {"--keep-partial", nullptr, &Options::keepPartial, "bei einem Fehler behalten, was bis dahin übernommen wurde",
      "--keep-partial"},
-    {"--to", "FORMAT", &Options::to, "das Format der Ausgabe: csv oder json", "--to csv"},
+    {"--to", "FORMAT", &Options::to, "das Format der Ausgabe: csv, json, hledger oder qif", "--to csv"},
     {"--session", "NUMMER", &Options::session, "nur die Datensätze dieser Importsitzung", "--session 3"},
     {"--since", "DATUM", &Options::since, "nur, was an diesem Tag oder danach gebucht ist", "--since 2024-01-01"},
     {"--until", "DATUM", &Options::until, "nur, was bis zu diesem Tag gebucht ist, ihn eingeschlossen",

@@ -6,7 +6,9 @@
 #include <iterator>
 
 #include "export/CsvWriter.h"
+#include "export/JournalWriter.h"
 #include "export/JsonWriter.h"
+#include "export/QifWriter.h"
 
 namespace {
 
@@ -18,6 +20,8 @@ std::unique_ptr<ExportWriter> make(const ExportContext& context) {
 constexpr ExportFormat kFormats[] = {
     {"csv", make<CsvWriter>},
     {"json", make<JsonWriter>},
+    {"hledger", make<JournalWriter>},
+    {"qif", make<QifWriter>},
 };
 
 } // namespace

@@ -8,6 +8,7 @@
 #include "datamodel/HostText.h"
 #include "export/AmountDigits.h"
 #include "export/DayText.h"
+#include "export/HostControls.h"
 
 namespace {
 
@@ -16,7 +17,9 @@ constexpr const char* kRecordFields[] = {"Datum",        "Betrag",    "Empfaenge
                                          "Buchungstext", "Kategorie", "Unterkategorie", "ImportID",
                                          "UniqueID"};
 constexpr const char* kBookingFields[] = {"BuchungsDatum", "ValutaDatum", "Betrag", "Empfaenger", "Verwendungszweck"};
-constexpr const char* kSessionFields[] = {"ImportID", "ImportDatum", "ImportTyp", "ImportFileName", "ImportInfo"};
+constexpr const char* kSessionFields[] = {"ImportID",    "ImportDatum",     "ImportTyp", "ImportFileName", "ImportInfo",
+                                          "Datensaetze", "Abgelehnt",       "Bekannt",   "Summe",          "ErsterTag",
+                                          "LetzterTag",  "Zurueckgenommen", "Pruefsumme"};
 constexpr const char* kAccountFields[] = {"BLZ", "KtoNummer", "Bezeichnung"};
 
 std::vector<std::size_t> orderOf(const RecordSpec& spec, std::span<const char* const> first) {
@@ -30,11 +33,6 @@ std::vector<std::size_t> orderOf(const RecordSpec& spec, std::span<const char* c
     return order;
 }
 
-/// Control characters of seven and of eight bits; texts of the host have no other harmful ones.
-bool isControl(unsigned char byte) {
-    return byte < 0x20 || byte == 0x7F || byte == 0x81 || byte == 0x8D || byte == 0x8F || byte == 0x90 || byte == 0x9D;
-}
-
 void appendEscape(std::string& out, char c) {
     constexpr std::string_view kDigits = "0123456789abcdef";
     const auto byte = static_cast<unsigned char>(c);
@@ -46,9 +44,8 @@ void appendEscape(std::string& out, char c) {
 void appendText(std::string& out, std::string_view text) {
     out += '"';
     while (!text.empty()) {
-        const auto* const stop = std::find_if(text.begin(), text.end(), [](char c) {
-            return c == '"' || c == '\\' || isControl(static_cast<unsigned char>(c));
-        });
+        const auto* const stop = std::find_if(
+            text.begin(), text.end(), [](char c) { return c == '"' || c == '\\' || HostControls::isControl(c); });
         const auto plain = static_cast<std::size_t>(stop - text.begin());
         HostText::appendUtf8(out, text.substr(0, plain));
         text.remove_prefix(plain);

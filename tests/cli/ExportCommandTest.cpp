@@ -106,14 +106,15 @@ TEST_F(ExportCommandTest, JsonHoldsWhatShowHolds) {
 }
 
 TEST_F(ExportCommandTest, SessionsAndDaysNarrow) {
-    write("a.csv", "Datum;Betrag;Text\n01.02.2024;1,00;a\n02.02.2024;2,00;b\n03.02.2024;3,00;c\n");
-    write("b.csv", "Datum;Betrag;Text\n02.02.2024;4,00;d\n");
+    write("a.csv", "Datum;Betrag;Text\n01.02.2024;1,00;eins\n02.02.2024;2,00;zwei\n03.02.2024;3,00;drei\n");
+    write("b.csv", "Datum;Betrag;Text\n02.02.2024;4,00;vier\n");
     import({"a.csv"}, 0);
     import({"b.csv"}, 0);
     const auto amounts = [&](std::vector<std::string> options) {
         options.insert(options.begin(), {"--to", "json"});
         std::string list;
-        for (const Json& record : Json::parse(exporting(options).output).at("dataSets"))
+        const Json document = Json::parse(exporting(options).output);
+        for (const Json& record : document.at("dataSets"))
             list += record.at("Betrag").dump() + " ";
         return list;
     };
@@ -142,6 +143,75 @@ TEST_F(ExportCommandTest, NothingIsAValidDocumentAndANote) {
     EXPECT_THAT(json.messages, Says("[nothing-to-export]"));
     const Result csv = exporting({"--to", "csv"});
     EXPECT_EQ(std::count(csv.output.begin(), csv.output.end(), '\n'), 1);
+}
+
+TEST_F(ExportCommandTest, QifIsReadAgainByTheImport) {
+    makeStore({{{1, 2, 2024}, -1234.5, {"M\xFCller", "Miete  kalt; warm", "Karte", "Wohnen", "Miete"}},
+               {{11, 12, 2024}, 0.125, {"Bank", "", "", "Bankkonten", "Zinsen"}},
+               {{2, 2, 2024}, 1.0, {"", "x", "", "Kreditkartenkonten", ""}}});
+    const Result written = exporting({"--to", "qif"});
+    EXPECT_EQ(written.status, 0);
+    EXPECT_EQ(written.messages, "");
+    write("again.qif", written.output);
+    const Result imported = run({"import", "again.qif", "--store", "again.db"});
+    ASSERT_EQ(imported.status, 0) << imported.messages;
+    EXPECT_EQ(imported.messages, "");
+    const std::vector<BookRow> before = rowsOf(kStore);
+    const std::vector<BookRow> after = rowsOf("again.db");
+    ASSERT_EQ(after.size(), 3U);
+    for (std::size_t i = 0; i < before.size(); ++i) {
+        EXPECT_EQ(before[i].day, after[i].day) << i;
+        EXPECT_EQ(before[i].amount, after[i].amount) << i;
+        for (const std::size_t text : {0, 1, 2})
+            EXPECT_EQ(before[i].texts[text], after[i].texts[text]) << i;
+    }
+    EXPECT_EQ(after[0].texts[4], "Wohnen:Miete");
+    EXPECT_EQ(after[1].texts, before[1].texts) << "what came from such a file goes there again";
+    EXPECT_EQ(after[2].texts, before[2].texts);
+}
+
+TEST_F(ExportCommandTest, OneQifRecordWithAnyDayIsReadAgain) {
+    makeStore({{{3, 2, 2001}, 1.0, {}}});
+    write("again.qif", exporting({"--to", "qif"}).output);
+    ASSERT_EQ(run({"import", "again.qif", "--store", "again.db"}).status, 0);
+    EXPECT_EQ(rowsOf("again.db").at(0).day, DMDate(3, 2, 2001));
+}
+
+TEST_F(ExportCommandTest, GeneratedBooksComeBackFromQifButForWhatWasTold) {
+    std::vector<BookRow> rows;
+    for (BookRow row : GeneratedBook(5).rows(400)) {
+        if (row.day.year() < 1900 || row.day.year() > 2199)
+            row.day = DMDate(1 + static_cast<unsigned>(rows.size() % 28), 2, 2024);
+        row.hasAmount = true;
+        row.amount = static_cast<double>(static_cast<long>(rows.size()) * 7 - 900) / 100.0;
+        rows.push_back(row);
+    }
+    makeStore(rows);
+    write("again.qif", exporting({"--to", "qif"}).output);
+    const Result imported = run({"import", "again.qif", "--store", "again.db"});
+    ASSERT_EQ(imported.status, 0) << imported.messages;
+    const std::vector<BookRow> after = rowsOf("again.db");
+    ASSERT_EQ(after.size(), rows.size());
+    for (std::size_t i = 0; i < rows.size(); ++i) {
+        EXPECT_EQ(rows[i].day, after[i].day) << i;
+        EXPECT_EQ(rows[i].amount, after[i].amount) << i;
+    }
+}
+
+TEST_F(ExportCommandTest, WhatAFormatCannotHoldIsTold) {
+    BookRow noAmount({1, 2, 2024}, 0.0, {});
+    noAmount.hasAmount = false;
+    makeStore({{{}, 1.0, {}}, {{}, 1.0, {}}, {{1, 2, 2024}, 1.0, {"a;b\nc", "", "", "", ""}}, noAmount, {{}, 1.0, {}}});
+    const Result journal = exporting({"--to", "hledger"});
+    EXPECT_EQ(journal.status, 1) << "records are missing";
+    EXPECT_THAT(journal.output, Says("2024-02-01 * (3) a,b c\n"));
+    EXPECT_THAT(journal.messages, Says("Fehler: Ohne Datum, und darum nicht in der Ausgabe: 3 Datensätze "
+                                       "(UniqueID 1-2, 5). [export-undated]"));
+    EXPECT_THAT(journal.messages, Says("1 Datensatz (UniqueID 3). [export-text-changed]"));
+    EXPECT_THAT(journal.messages, Says("1 Datensatz (UniqueID 4). [export-no-amount]"));
+    const Result qif = exporting({"--to", "qif", "--since", "2024-01-01"});
+    EXPECT_EQ(qif.status, 0) << "those without a date were not asked for";
+    EXPECT_THAT(qif.messages, Says("[export-text-changed]"));
 }
 
 TEST_F(ExportCommandTest, SessionMustExistAndNotBeUndone) {
@@ -190,7 +260,7 @@ TEST_F(ExportCommandTest, StoreMustBeThereAndIsNotTouched) {
 
 TEST_F(ExportCommandTest, NothingSteersATerminal) {
     makeStore({{{1, 2, 2024}, 1.0, {"a\x1B[31m\x90", "", "", "", ""}}});
-    for (const char* format : {"csv", "json"}) {
+    for (const char* format : {"csv", "json", "hledger", "qif"}) {
         ChildProgram program = this->program({"export", "--store", kStore, "--to", format});
         program.terminalColumns = 80;
         const std::string output = program.run().output;
@@ -247,6 +317,18 @@ TEST_F(ExportBookingsTest, JsonHasTheAccountAsWell) {
     const Json document = Json::parse(exporting({"--to", "json", "--account", "100/0815"}).output);
     EXPECT_EQ(document.at("bookings"), Json::array({show("bookings").at(0)}));
     EXPECT_EQ(document.at("accounts"), Json::array({show("accounts").at(0)}));
+}
+
+TEST_F(ExportBookingsTest, JournalNamesAccountAndTheBanksNumber) {
+    const Result result = exporting({"--to", "hledger", "--account", "100/0815"});
+    EXPECT_THAT(result.output, Says("2004-12-31 * (B-1) eins zwei\n"
+                                    "    ; GVCode: 116\n"
+                                    "    ; Valuta: 2005-01-02\n"
+                                    "    ; Notiz: n\n"
+                                    "    ; Steuerrelevant: ja\n"
+                                    "    Ausgaben:Unkategorisiert  12.50 EUR\n"
+                                    "    Aktiva:Bank:100:0815  -12.50 EUR\n"));
+    EXPECT_THAT(exporting({"--to", "qif", "--account", "100/0815"}).messages, Says("[export-field-dropped]"));
 }
 
 TEST_F(ExportBookingsTest, UnknownAccountIsToldAndNothingIsWritten) {

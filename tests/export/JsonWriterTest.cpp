@@ -26,8 +26,8 @@ TEST(JsonWriter, RecordsAndTheirSessions) {
               "\"ImportID\":2,\"UniqueID\":2,\"Zeile\":null,\"Geaendert\":null}\n"
               "],\"sessions\":[\n"
               "{\"ImportID\":2,\"ImportDatum\":null,\"ImportTyp\":null,\"ImportFileName\":\"b.csv\","
-              "\"ImportInfo\":\"\",\"Pruefsumme\":\"\",\"Datensaetze\":null,\"Abgelehnt\":null,\"Bekannt\":null,"
-              "\"Summe\":null,\"ErsterTag\":null,\"LetzterTag\":null,\"Zurueckgenommen\":null}\n"
+              "\"ImportInfo\":\"\",\"Datensaetze\":null,\"Abgelehnt\":null,\"Bekannt\":null,"
+              "\"Summe\":null,\"ErsterTag\":null,\"LetzterTag\":null,\"Zurueckgenommen\":null,\"Pruefsumme\":\"\"}\n"
               "]}\n")
         << "the session of no record is left out";
 }
