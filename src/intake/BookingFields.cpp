@@ -108,7 +108,7 @@ bool isUsedUp(const ColumnRoles& roles, int column) {
 std::string oneLine(std::string_view text) {
     std::string out(TextTools::trim(text));
     for (char& c : out) {
-        if (c == '\n' || c == '\r' || c == '\0')
+        if (c == '\n' || c == '\r')
             c = ' ';
     }
     return out;

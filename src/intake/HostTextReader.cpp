@@ -212,6 +212,9 @@ HostFileText read(std::string_view bytes, std::optional<Encoding> forced) {
         result.text = bytes; // the host's own encoding, or a part of it
         break;
     }
+    result.zeroBytes = result.text.find('\0') != std::string::npos;
+    if (result.zeroBytes)
+        std::replace(result.text.begin(), result.text.end(), '\0', ' ');
     return result;
 }
 

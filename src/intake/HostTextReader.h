@@ -21,6 +21,7 @@ struct HostFileText {
     };
 
     std::string text;
+    bool zeroBytes = false; ///< there were some; the library ends a line at one, and in `text` they are blanks
     Encoding encoding = Encoding::ascii;
     bool bom = false;
     std::map<char32_t, Substitution> substitutions;

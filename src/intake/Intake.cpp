@@ -84,7 +84,7 @@ std::vector<IntakeMessage> aboutText(const HostFileText& text, int lineCount) {
                                            TextTools::toUtf8(substitution.replacement)}));
     if (text.brokenLine > 0)
         messages.push_back(Messages::make(MessageId::encodingBroken, existing(text.brokenLine)));
-    if (text.text.find('\0') != std::string::npos)
+    if (text.zeroBytes)
         messages.push_back(Messages::make(MessageId::zeroBytes, 0));
     return messages;
 }
@@ -223,8 +223,6 @@ IntakeResult readAsItStands(std::string_view bytes, const InspectionOptions& opt
     for (int line = 0; line < lines.count(); ++line)
         lines.keep(line);
     result.prepared.text = lines.text();
-    // The library would cut the line there, and all its cells behind.
-    std::replace(result.prepared.text.begin(), result.prepared.text.end(), '\0', ' ');
     result.prepared.untouched = result.prepared.text == bytes;
     result.prepared.header = result.header;
     result.prepared.delimiter = result.delimiter;

@@ -56,8 +56,7 @@ const int kMaxLineLength = ImportFileBase::kMaxLineLength;
 const int kMaxColumns = 49;
 
 bool splitsLine(const RecordTable::Record& record, std::string_view line) {
-    return record.plain && record.cellCount <= kMaxColumns && line.find('\0') == std::string_view::npos &&
-           line.size() <= static_cast<std::size_t>(kMaxLineLength);
+    return record.plain && record.cellCount <= kMaxColumns && line.size() <= static_cast<std::size_t>(kMaxLineLength);
 }
 
 bool skipsLine(std::string_view line) { return line.find_first_not_of(" \t") == std::string_view::npos; }

@@ -146,14 +146,10 @@ private:
         } else if (kind == Kind::category && field.letter == 'B') {
             line = amountLine(field);
         }
-        if (line.empty() && m_lines.original(field.line).find('\0') != std::string_view::npos)
-            line = field.letter + std::string(field.text);
-        if (line.empty()) {
+        if (line.empty())
             m_lines.keep(field.line);
-            return;
-        }
-        std::replace(line.begin(), line.end(), '\0', ' ');
-        m_lines.write(field.line, std::move(line));
+        else
+            m_lines.write(field.line, std::move(line));
     }
 
     /// The library takes the last of several lines of a letter; the record's own

@@ -37,6 +37,13 @@ TEST(QifFiles, OfAnySystemAndEncodingAreRead) {
     }
 }
 
+/// The letter of a line is the one that the library sees behind them, too.
+TEST(QifFiles, ZeroBytesInFrontOfALetterAreBlanks) {
+    const FileReading file = qif(replaced(kText, "\nD13", std::string("\n\0\0D13", 6)));
+    EXPECT_THAT(file.bookings(), kBookings);
+    EXPECT_THAT(file.messages(), ElementsAre("zero-bytes"));
+}
+
 TEST(QifFiles, WhatTheLibraryReadsRightGoesThroughUntouched) {
     const std::string text = replaced(kText, "ü", "ue");
     EXPECT_TRUE(qif(text).untouched());
