@@ -13,13 +13,16 @@
 
 namespace {
 
-bool isStampedByTheClock(std::string_view field) { return field == "LetztesImportDatum" || field == "ImportDatum"; }
+/// What differs from run to run by its nature: the day, and the name of a scratch file.
+bool isIncidental(std::string_view field) {
+    return field == "LetztesImportDatum" || field == "ImportDatum" || field == "ImportFileName";
+}
 
 void append(std::string& out, std::string_view name, const FieldNode& field) {
     if (field.kind() == DataType::eEmpty)
         return;
     out += name;
-    switch (field.kind()) {
+    switch (isIncidental(name) ? DataType::eEmpty : field.kind()) {
     case DataType::eEmpty:
         break;
     case DataType::eInteger:
@@ -33,7 +36,7 @@ void append(std::string& out, std::string_view name, const FieldNode& field) {
         out += field.text();
         break;
     case DataType::eDate:
-        out += isStampedByTheClock(name) ? " date" : " date " + field.getValue().asString(true, 2);
+        out += " date " + field.getValue().asString(true, 2);
         break;
     case DataType::eBoolean:
         out += field.flag() ? " yes" : " no";

@@ -9,7 +9,7 @@ class Node;
 
 /// Everything that a tree holds, a line per field with its kind and exact
 /// content: two trees are equal exactly when their texts are. The dates that the
-/// clock stamps are told by whether they are there.
+/// clock stamps and the name of the file are told by whether they are there.
 namespace ModelText {
 
 /// `root` is the root of a tree of ours.
