@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "csv/DelimiterFinder.h"
-#include "csv/SlowCsv.h"
+#include "differential/PlainLines.h"
 #include "support/FuzzInput.h"
 #include "support/FuzzTarget.h"
 #include "support/require.h"
@@ -27,7 +27,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     const std::vector<std::string> lines = FuzzInput(bytes, size).lines();
     DelimiterFinder finder;
     const char found = find(finder, lines);
-    require(found == SlowCsv::bestDelimiter(lines), "the delimiter is found by the rules");
+    require(found == PlainLines::bestDelimiter(lines), "the delimiter is found by the rules");
     require(found >= 0 && found < 127 && std::isalnum(found) == 0, "letters, digits and other bytes are none");
     require(find(finder, lines) == found, "a cleared finder finds the same");
     return 0;
