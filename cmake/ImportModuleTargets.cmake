@@ -31,7 +31,11 @@ endif()
 
 # Hardening for what is installed; instrumented builds have better watchmen, and without optimisation the
 # checked functions of the C library are not to be had.
-set(import_module_hardened "$<AND:$<CONFIG:Release,RelWithDebInfo>,$<NOT:$<BOOL:${IMPORT_MODULE_SANITIZE}>>>")
+# (Decided here: a list of sanitizers has a comma, which an expression takes for its own.)
+set(import_module_hardened "$<CONFIG:Release,RelWithDebInfo>")
+if(IMPORT_MODULE_SANITIZE)
+    set(import_module_hardened 0)
+endif()
 target_compile_options(import_module_options INTERFACE
     "$<${import_module_hardened}:-U_FORTIFY_SOURCE;-D_FORTIFY_SOURCE=2;-fstack-protector-strong;-fstack-clash-protection>")
 target_link_options(import_module_options INTERFACE
