@@ -51,6 +51,8 @@ constexpr Column kColumns[] = {
     {"HomeBankingDataSets", "KontoID"},
     {"HomeBankingDataSets", "BuchungsDatum"},
     {"HomeBankingDataSets", "Steuerrelevant"},
+    {"Buchungslisten", "id"},
+    {"Buchungslisten", "Pruefsumme"},
     {"Zeilenzahlen", "Tabelle"},
     {"Zeilenzahlen", "KontoID"},
     {"Zeilenzahlen", "Anzahl"},
@@ -62,6 +64,8 @@ constexpr Column kColumns[] = {
 constexpr const char* kStatements[] = {
     "PRAGMA user_version = 0",
     "PRAGMA user_version = 1",
+    "PRAGMA user_version = 2",
+    "DROP TABLE Buchungslisten",
     "PRAGMA user_version = 99",
     "PRAGMA application_id = 0",
     "DROP TABLE Bestand",
