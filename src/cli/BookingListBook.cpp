@@ -10,8 +10,6 @@
 
 namespace {
 
-TableNode& lists(DataManager& model) { return ModelTables::table(model.model().root(), "Buchungslisten"); }
-
 void set(RecordNode& list, const char* field, const DataType& value) {
     ModelTables::field(list, field).setValue(value, NDX(), 0);
 }
@@ -28,18 +26,17 @@ DataType text(const std::string& value) {
 
 namespace BookingListBook {
 
-std::optional<List> find(DataManager& model, const std::string& checksum) {
-    for (unsigned row = lists(model).getNodeCount(); row > 0; --row) {
-        RecordNode* list = lists(model).row(row);
-        if (list != nullptr && ModelTables::field(*list, "Pruefsumme").text() == checksum)
-            return List{FieldText::display(ModelTables::field(*list, "ImportDatum")),
-                        FieldText::display(ModelTables::field(*list, "ImportFileName"))};
-    }
-    return std::nullopt;
+std::optional<List> find(Store& store, const std::string& checksum) {
+    std::optional<List> found;
+    store.visitMatches("Buchungslisten", "Pruefsumme", checksum, [&found](RecordNode& list) {
+        found = {FieldText::display(ModelTables::field(list, "ImportDatum")),
+                 FieldText::display(ModelTables::field(list, "ImportFileName"))};
+    });
+    return found;
 }
 
 void keep(DataManager& model, RecordNode& account, const Facts& facts) {
-    RecordNode* list = lists(model).append();
+    RecordNode* list = ModelTables::table(model.model().root(), "Buchungslisten").append();
     if (list == nullptr)
         return; // after 65,535 lists none is noted any more, and all are still imported
     const DataType day = ModelTables::field(account, "LetztesImportDatum").getValue();

@@ -8,6 +8,7 @@
 
 #include "datamodel/DataManager.h"
 #include "datamodel/RecordNode.h"
+#include "store/Store.h"
 
 /// Which lists of bookings were imported: what the sessions are to the file imports.
 namespace BookingListBook {
@@ -25,8 +26,8 @@ struct List {
     std::string fileName; ///< UTF-8
 };
 
-/// The last imported list with that checksum.
-std::optional<List> find(DataManager& model, const std::string& checksum);
+/// The last imported list in the store's file with that checksum.
+std::optional<List> find(Store& store, const std::string& checksum);
 
 /// Notes a list whose bookings went to `account`, which knows the day.
 void keep(DataManager& model, RecordNode& account, const Facts& facts);

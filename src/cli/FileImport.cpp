@@ -36,7 +36,7 @@ void FileImport::run(StoreAtPath& storeAtPath, const Console& console) {
         return;
     }
     Store& store = storeAtPath.forWriting();
-    if (m_wishes.again || m_wishes.newOnly || !wasImportedBefore(store.model()))
+    if (m_wishes.again || m_wishes.newOnly || !wasImportedBefore(store))
         importInto(store, console);
     m_report.lines = LineAccount::of(m_reading, m_report);
     const bool keeps = (!m_failed && !broughtNothingNew()) || (m_wishes.keepPartial && m_report.importedCount > 0);
@@ -68,8 +68,8 @@ bool FileImport::takeChecksum() {
 }
 
 /// Repeating a file by mistake is the commonest way to double one's books.
-bool FileImport::wasImportedBefore(DataManager& model) {
-    const std::optional<SessionBook::Session> before = SessionBook::find(model, m_checksum);
+bool FileImport::wasImportedBefore(Store& store) {
+    const std::optional<SessionBook::Session> before = SessionBook::find(store, m_checksum);
     if (before)
         fail(Message::of(Problem::importedBefore, {std::to_string(before->number), before->day, before->fileName}));
     return before.has_value();

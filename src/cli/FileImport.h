@@ -39,7 +39,7 @@ private:
     void leaveOutKnown(const NewRecords& added, std::vector<std::size_t>& lines, Store& store);
     bool broughtNothingNew() const { return m_report.importedCount == 0 && m_report.knownCount.value_or(0) > 0; }
     bool takeChecksum();
-    bool wasImportedBefore(DataManager& model);
+    bool wasImportedBefore(Store& store);
     /// The line of each record that was stored, in order; empty where it is not known.
     std::vector<std::size_t> linesOfStored(const ModelWatch& watch, const NewRecords& added) const;
     void noteUndated(const NewRecords& added, const std::vector<std::size_t>& lines);

@@ -33,7 +33,7 @@ void HomeBankingImport::run(StoreAtPath& storeAtPath, const Console& console) {
     }
     Store& store = storeAtPath.forWriting();
     m_checksum = FileChecksum::ofBytes(m_file.bytes());
-    if (m_document.isAccountList || m_wishes.again || m_wishes.newOnly || !wasImportedBefore(store.model()))
+    if (m_document.isAccountList || m_wishes.again || m_wishes.newOnly || !wasImportedBefore(store))
         importInto(store, console);
     m_report.lines = XmlLines::count(m_text.view(), m_report.records.found > 0 ? m_list.records() : std::nullopt);
     const bool keeps =
@@ -60,8 +60,8 @@ void HomeBankingImport::askForWords() {
 }
 
 /// An account list only says what accounts there are; of bookings a second time would double them.
-bool HomeBankingImport::wasImportedBefore(DataManager& model) {
-    const std::optional<BookingListBook::List> before = BookingListBook::find(model, m_checksum);
+bool HomeBankingImport::wasImportedBefore(Store& store) {
+    const std::optional<BookingListBook::List> before = BookingListBook::find(store, m_checksum);
     if (before)
         fail(Message::of(Problem::listImportedBefore, {before->day, before->fileName}));
     return before.has_value();

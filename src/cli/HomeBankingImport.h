@@ -36,7 +36,7 @@ public:
 
 private:
     void askForWords();
-    bool wasImportedBefore(DataManager& model);
+    bool wasImportedBefore(Store& store);
     void importInto(Store& store, const Console& console);
     bool call(const XmlImportData& data);
     void judgeAccounts(DataManager& model);

@@ -13,16 +13,9 @@ namespace {
 
 TableNode& accounts(DataManager& model) { return ModelTables::table(model.model().root(), "HomeBankingImport"); }
 
-/// An account's bookings.
-struct Found {
-    TableNode* bookings = nullptr;
-    RecordNode* account = nullptr;
-    unsigned row = 0; ///< of the account
-};
-
 /// The first of the accounts' booking tables that somebody asked for and that is wanted.
 template <class Predicate>
-Found findBookings(DataManager& model, Predicate isWanted) {
+HomeBankingRows::AccountsBookings findBookings(DataManager& model, Predicate isWanted) {
     TableNode& all = accounts(model);
     for (unsigned number = 1; number <= all.getNodeCount(); ++number) {
         RecordNode* account = all.rowIfLoaded(number);
@@ -58,13 +51,12 @@ bool accountsAreFull(DataManager& model) { return isFull(accounts(model)); }
 
 bool anAccountIsFull(DataManager& model) { return findBookings(model, isFull).bookings != nullptr; }
 
-Bookings::Bookings(DataManager& model, const TableNode* table, std::size_t count) {
-    const Found found = findBookings(model, [table](const TableNode& bookings) { return &bookings == table; });
-    m_table = found.bookings;
-    m_account = found.account;
-    m_accountRow = found.row;
-    m_count = m_table != nullptr ? static_cast<unsigned>(count) : 0;
-}
+Bookings::Bookings(DataManager& model, const TableNode* table, std::size_t count)
+    : Bookings(findBookings(model, [table](const TableNode& bookings) { return &bookings == table; }), count) {}
+
+Bookings::Bookings(const AccountsBookings& found, std::size_t count)
+    : m_table(found.bookings), m_account(found.account), m_accountRow(found.row),
+      m_count(found.bookings != nullptr ? static_cast<unsigned>(count) : 0) {}
 
 bool Bookings::lastIsUnfinished() const {
     if (m_count == 0)

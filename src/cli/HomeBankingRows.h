@@ -17,6 +17,13 @@ bool accountsAreFull(DataManager& model);
 /// Whether an account that was asked for its bookings has no room for another one.
 bool anAccountIsFull(DataManager& model);
 
+/// An account with its bookings.
+struct AccountsBookings {
+    TableNode* bookings = nullptr;
+    RecordNode* account = nullptr;
+    unsigned row = 0; ///< of the account
+};
+
 /// The bookings that were added to an account.
 class Bookings {
 public:
@@ -38,10 +45,12 @@ public:
     std::size_t undated() const;
 
 private:
-    TableNode* m_table = nullptr;
-    RecordNode* m_account = nullptr;
-    unsigned m_accountRow = 0;
-    unsigned m_count = 0;
+    Bookings(const AccountsBookings& found, std::size_t count);
+
+    TableNode* m_table;
+    RecordNode* m_account;
+    unsigned m_accountRow;
+    unsigned m_count; // of the last rows
 };
 
 } // namespace HomeBankingRows

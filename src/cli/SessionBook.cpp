@@ -68,18 +68,15 @@ private:
 
 namespace SessionBook {
 
-std::optional<Session> find(DataManager& model, const std::string& checksum) {
-    TableNode& sessions = ModelTables::table(model.model().root(), "Importsessions");
-    for (unsigned number = sessions.getNodeCount(); number > 0; --number) {
-        RecordNode* session = sessions.row(number);
-        if (session == nullptr || ModelTables::field(*session, "Pruefsumme").text() != checksum ||
-            ModelTables::field(*session, "Zurueckgenommen").getValue().getBoolean())
-            continue;
-        return Session{ModelTables::field(*session, "ImportID").getValue().getInt(),
-                       FieldText::display(ModelTables::field(*session, "ImportDatum")),
-                       FieldText::display(ModelTables::field(*session, "ImportFileName"))};
-    }
-    return std::nullopt;
+std::optional<Session> find(Store& store, const std::string& checksum) {
+    std::optional<Session> found;
+    store.visitMatches("Importsessions", "Pruefsumme", checksum, [&found](RecordNode& session) {
+        if (!ModelTables::field(session, "Zurueckgenommen").getValue().getBoolean())
+            found = {ModelTables::field(session, "ImportID").getValue().getInt(),
+                     FieldText::display(ModelTables::field(session, "ImportDatum")),
+                     FieldText::display(ModelTables::field(session, "ImportFileName"))};
+    });
+    return found;
 }
 
 void keepLines(const NewRecords& added, const std::vector<std::size_t>& lines) {

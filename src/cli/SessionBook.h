@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "cli/NewRecords.h"
+#include "store/Store.h"
 
 /// What an import keeps beside what the library writes: where each record
 /// comes from, and what the session brought.
@@ -27,8 +28,8 @@ struct Session {
     std::string fileName; ///< UTF-8
 };
 
-/// The last session of the file with that checksum that was not undone.
-std::optional<Session> find(DataManager& model, const std::string& checksum);
+/// The last session in the store's file with that checksum of its file that was not undone.
+std::optional<Session> find(Store& store, const std::string& checksum);
 
 /// Notes the line of each new record; `lines` are theirs, in order, or empty
 /// where they are not known.

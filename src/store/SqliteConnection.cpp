@@ -64,7 +64,8 @@ StoreErrorCode meaningOf(int resultCode, int systemError) {
 
 } // namespace
 
-SqliteConnection::SqliteConnection(StorePath path, std::chrono::milliseconds patience) : m_path(std::move(path)) {
+SqliteConnection::SqliteConnection(StorePath path, std::chrono::milliseconds patience)
+    : m_path(std::move(path)), m_wait(patience) {
     // The path is absolute, and SQLite takes it as it is: neither ":memory:" nor
     // "file:..." nor "?" and "%" have a meaning in it.
     const std::string& name = m_path.real.native();
@@ -76,7 +77,7 @@ SqliteConnection::SqliteConnection(StorePath path, std::chrono::milliseconds pat
         throw std::bad_alloc();
     if (result != SQLITE_OK)
         fail(result);
-    sqlite3_busy_timeout(handle, static_cast<int>(std::clamp<std::int64_t>(patience.count(), 0, 1'000'000)));
+    sqlite3_busy_handler(handle, &BusyWait::tryAgain, &m_wait);
     // A store may come from anywhere: nothing in it is run. Its triggers are for
     // other programs; ours keeps the row counts itself.
     sqlite3_db_config(handle, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);

@@ -11,6 +11,7 @@
 #include <string>
 #include <string_view>
 
+#include "store/BusyWait.h"
 #include "store/StorePath.h"
 
 /// One connection to a database file. Every failure of SQLite becomes a
@@ -60,5 +61,6 @@ private:
     std::int64_t fileSize() const;
 
     StorePath m_path;
+    BusyWait m_wait; // before the handle, which refers to it
     std::unique_ptr<sqlite3, Close> m_handle;
 };

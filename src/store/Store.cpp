@@ -10,7 +10,7 @@
 #include "datamodel/TableSpec.h"
 #include "store/ModelWriter.h"
 #include "store/StoreDatabase.h"
-#include "store/StoredDaysQuery.h"
+#include "store/StoredQuery.h"
 #include "store/StoreTree.h"
 
 namespace {
@@ -43,18 +43,26 @@ public:
     }
 
     void visitRecords(const StoredDays& days, const RowVisitor& use) {
-        static constexpr StoredDaysQuery::Columns kColumns{"Datum", nullptr};
-        beginAsLoaded();
+        static constexpr StoredQuery::DayColumns kColumns{"Datum", nullptr};
+        m_database.begin();
         if (m_tree)
-            StoredDaysQuery::visit(*m_tree, tableNamed("DataSets"), 0, kColumns, days, use);
+            StoredQuery::byDays(*m_tree, tableNamed("DataSets"), 0, kColumns, days, use);
     }
 
     void visitBookings(const RecordNode& account, const StoredDays& days, const RowVisitor& use) {
-        static constexpr StoredDaysQuery::Columns kColumns{"BuchungsDatum", "BuchungsID"};
-        beginAsLoaded();
+        static constexpr StoredQuery::DayColumns kColumns{"BuchungsDatum", "BuchungsID"};
+        m_database.begin();
+        if (m_database.isStale()) // then the account is a node of an older tree
+            throw StoreError(StoreErrorCode::changed, m_database.connection().path().given);
         if (m_tree && account.storeId() != 0)
-            StoredDaysQuery::visit(*m_tree, tableNamed("HomeBankingImport").nested().front(), account.storeId(),
-                                   kColumns, days, use);
+            StoredQuery::byDays(*m_tree, tableNamed("HomeBankingImport").nested().front(), account.storeId(), kColumns,
+                                days, use);
+    }
+
+    void visitMatches(const char* table, const char* field, std::string_view text, const RowVisitor& use) {
+        m_database.begin();
+        if (m_tree)
+            StoredQuery::byText(*m_tree, tableNamed(table), field, text, use);
     }
 
     void commit() {
@@ -90,12 +98,6 @@ public:
 
 private:
     static RecordNode& root(DataManager& manager) { return manager.model().root(); }
-
-    void beginAsLoaded() {
-        m_database.begin();
-        if (m_database.isStale())
-            throw StoreError(StoreErrorCode::changed, m_database.connection().path().given);
-    }
 
     const TableLayout& tableNamed(std::string_view name) {
         const auto& tables = m_tree->root().layout().nested();
@@ -137,6 +139,10 @@ void Store::visitRecords(const StoredDays& days, const RowVisitor& use) { m_impl
 
 void Store::visitBookings(const RecordNode& account, const StoredDays& days, const RowVisitor& use) {
     m_impl->visitBookings(account, days, use);
+}
+
+void Store::visitMatches(const char* table, const char* field, std::string_view text, const RowVisitor& use) {
+    m_impl->visitMatches(table, field, text, use);
 }
 
 void Store::commit() { m_impl->commit(); }

@@ -5,6 +5,7 @@
 #include <chrono>
 #include <filesystem>
 #include <memory>
+#include <string_view>
 
 #include "datamodel/DataManager.h"
 #include "store/StoreAccess.h"
@@ -46,6 +47,9 @@ public:
     /// The same for the bookings of an account, a row of this store's tree; it
     /// has none in the file while it is new.
     void visitBookings(const RecordNode& account, const StoredDays& days, const RowVisitor& use);
+
+    /// The same for the rows of `table`, one of the root's, whose text `field` is `text` (host bytes).
+    void visitMatches(const char* table, const char* field, std::string_view text, const RowVisitor& use);
 
     /// Writes all changes since the last commit as one transaction and releases
     /// the write lock. Throws StoreError; then the file is as it was and the

@@ -135,3 +135,26 @@ TEST_F(StoredDaysTest, AValueFromAForeignHandIsReported) {
     Store store = open();
     EXPECT_EQ("store-bad-value", storeErrorCodeOf([&] { numbers(store, {kJune, kJuly, false, {}}); }));
 }
+
+TEST_F(StoredDaysTest, RowsAreFoundByAText) {
+    fill();
+    Store store = open();
+    std::vector<int> found;
+    store.visitMatches("DataSets", "Empfaenger", "M\xFCller 3",
+                       [&found](RecordNode& record) { found.push_back(get(record, "UniqueID").getInt()); });
+    EXPECT_EQ((Numbers{3}), found);
+    store.visitMatches("Importsessions", "Pruefsumme", "0", [](RecordNode&) { ADD_FAILURE(); });
+}
+
+TEST_F(StoredDaysTest, RowsThatAnotherProgramWroteInBetweenAreSeen) {
+    fill();
+    Store store = open();
+    store.commit();
+    {
+        Store other = open();
+        set(*table(other.model(), "DataSets").row(2), "Datum", date(2, 9, 2024));
+        other.commit();
+    }
+    EXPECT_EQ((Numbers{3}), numbers(store, {kJune, kJuly, false, {}}));
+    EXPECT_EQ(6, table(store.model(), "DataSets").getNodeCount()) << "the tree is loaded anew afterwards";
+}

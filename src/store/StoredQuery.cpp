@@ -1,6 +1,6 @@
 // SPDX-FileCopyrightText: 2026 The ImportModule authors
 // SPDX-License-Identifier: MIT
-#include "store/StoredDaysQuery.h"
+#include "store/StoredQuery.h"
 
 #include <memory>
 #include <string>
@@ -39,7 +39,7 @@ std::string jsonList(const std::vector<std::string>& numbers) {
     return list + "]";
 }
 
-std::string conditionOf(const StoredDaysQuery::Columns& columns, const StoredDays& days) {
+std::string conditionOf(const StoredQuery::DayColumns& columns, const StoredDays& days) {
     const std::string date = columns.date;
     // The zero date sorts before every day.
     std::string condition = "(" + date + " BETWEEN ? AND ?";
@@ -56,12 +56,22 @@ std::string isoText(const DMDate& day) {
     return text;
 }
 
+void visit(SqliteStatement& rows, const TableLayout& layout, const SqliteConnection& connection,
+           const RowVisitor& use) {
+    ModelContext context(DataModel::kCenturyWindowStart);
+    const std::unique_ptr<RecordNode, Destroy> record(RecordNode::make(layout.spec(), context));
+    while (rows.step()) {
+        RecordReader::read(rows, layout, connection, *record);
+        use(*record);
+    }
+}
+
 } // namespace
 
-namespace StoredDaysQuery {
+namespace StoredQuery {
 
-void visit(StoreTree& tree, const TableLayout& layout, std::int64_t owner, const Columns& columns,
-           const StoredDays& days, const RowVisitor& use) {
+void byDays(StoreTree& tree, const TableLayout& layout, std::int64_t owner, const DayColumns& columns,
+            const StoredDays& days, const RowVisitor& use) {
     SqliteConnection& connection = tree.database().connection();
     SqliteStatement rows(connection, layout.selectWhereSql(conditionOf(columns, days)));
     int parameter = 1;
@@ -75,13 +85,16 @@ void visit(StoreTree& tree, const TableLayout& layout, std::int64_t owner, const
     const std::string numbers = jsonList(days.numbers);
     if (!days.numbers.empty() && columns.number != nullptr)
         rows.bind(parameter++, std::string_view(numbers));
-
-    ModelContext context(DataModel::kCenturyWindowStart);
-    const std::unique_ptr<RecordNode, Destroy> record(RecordNode::make(layout.spec(), context));
-    while (rows.step()) {
-        RecordReader::read(rows, layout, connection, *record);
-        use(*record);
-    }
+    visit(rows, layout, connection, use);
 }
 
-} // namespace StoredDaysQuery
+void byText(StoreTree& tree, const TableLayout& layout, const char* column, std::string_view text,
+            const RowVisitor& use) {
+    SqliteConnection& connection = tree.database().connection();
+    SqliteStatement rows(connection, layout.selectWhereSql(std::string(column) + " = ?"));
+    const std::string utf8 = HostText::toUtf8(text);
+    rows.bind(1, std::string_view(utf8));
+    visit(rows, layout, connection, use);
+}
+
+} // namespace StoredQuery
