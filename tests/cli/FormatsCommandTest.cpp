@@ -30,7 +30,10 @@ TEST_F(FormatsCommandTest, OptionsOfAllCommandsMayStandBeforeTheCommand) {
 
 TEST_F(FormatsCommandTest, OutputThatCannotBeWrittenIsTold) {
     ChildProgram program = this->program({"formats"});
-    program.before = [] { static_cast<void>(std::freopen("/dev/full", "w", stdout)); };
+    program.before = [] {
+        if (std::freopen("/dev/full", "w", stdout) == nullptr)
+            std::abort();
+    };
     const Result result = program.run();
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.messages, Says("[output-failed]"));
