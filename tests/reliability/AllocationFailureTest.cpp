@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: MIT
 #include <cstddef>
 #include <functional>
-#include <optional>
+#include <ostream>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -31,6 +31,8 @@ struct Way {
     /// `ready` is called when all is prepared and the front door is about to be.
     bool (*import)(const char* path, Node* target, const std::function<void()>& ready);
 };
+
+std::ostream& operator<<(std::ostream& out, const Way& way) { return out << way.name; }
 
 int importFile(const char* path, Node* target, const std::function<void()>& ready, bool simulate) {
     ColumnAssignment columns = {{{0, Import::eColDatum},

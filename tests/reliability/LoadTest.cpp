@@ -125,6 +125,8 @@ struct Extreme {
     const char* why;
 };
 
+std::ostream& operator<<(std::ostream& out, const Extreme& extreme) { return out << extreme.name; }
+
 const std::string kHead = "Buchungstag;Empfaenger;Verwendungszweck;Betrag\n13.05.2004;A;Eins;-1,00\n";
 
 const Extreme kExtremes[] = {
