@@ -27,11 +27,12 @@ protected:
         fs::create_directory(path("tmp"));
         write("vorher.csv", "13.05.2004;A;Eins;-1,00\n14.05.2004;B;Zwei;-2,00\n15.05.2004;C;Drei;-3,00\n");
         write("nachher.csv", "16.05.2004;D;Vier;-4,00\n");
-        std::string many;
+        std::string many; // UTF-8, so that the library gets a copy
         for (int row = 0; row < m_rows; ++row)
             many += "0" + std::to_string(1 + row % 9) + ".06.2004;Empfaenger Nummer " + std::to_string(row) +
-                    ";Ein Verwendungszweck von ueblicher Laenge " + std::to_string(row * 7) + ";-" +
-                    std::to_string(row % 1000) + ",50\n";
+                    ";Ein Verwendungszweck von \xC3\xBC"
+                    "blicher L\xC3\xA4nge " +
+                    std::to_string(row * 7) + ";-" + std::to_string(row % 1000) + ",50\n";
         write("viele.csv", many);
         EXPECT_EQ(importFile("vorher.csv"), 0);
         fs::rename(path(kStore), path("vorlage.db"));
