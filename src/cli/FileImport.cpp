@@ -123,6 +123,8 @@ void FileImport::judge(const RunOutcome& outcome, const ModelWatch& watch, const
     countRecords(watch);
     SessionBook::keepLines(added, lines);
     SessionBook::keepSession(added, {m_checksum, m_report.refusedCount, m_report.knownCount.value_or(0)});
+    if (m_wishes.toldOf)
+        m_records = ImportedRecords::of(added);
     const auto isBefore = [](const Message& a, const Message& b) { return a.line < b.line; };
     if (!std::is_sorted(m_report.messages.begin(), m_report.messages.end(), isBefore))
         std::stable_sort(m_report.messages.begin(), m_report.messages.end(), isBefore);

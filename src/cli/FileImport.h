@@ -7,6 +7,7 @@
 #include "cli/Console.h"
 #include "cli/FileReading.h"
 #include "cli/FileReport.h"
+#include "cli/ImportedRecords.h"
 #include "cli/ModelWatch.h"
 #include "cli/NewRecords.h"
 #include "cli/StoreAtPath.h"
@@ -18,6 +19,7 @@ struct ImportWishes {
     bool keepPartial = false;
     bool again = false;   ///< also what was imported before
     bool newOnly = false; ///< leaves out records that the store has
+    bool toldOf = false;  ///< a page tells of the records
 };
 
 /// The import of one file into a store: one transaction, which a failure takes
@@ -30,6 +32,8 @@ public:
     /// Throws StoreError; `report` then says how far it came.
     void run(StoreAtPath& store, const Console& console);
     const FileReport& report() const { return m_report; }
+    /// What it made, kept or not; nothing unless the person wants it told.
+    const ImportedRecords& records() const { return m_records; }
 
 private:
     void askForWords();
@@ -49,6 +53,7 @@ private:
     const FileReading& m_reading;
     const ImportWishes& m_wishes;
     FileReport m_report;
+    ImportedRecords m_records;
     std::string m_checksum;
     bool m_failed = false; ///< the file as a whole, not single records of it
 };

@@ -15,6 +15,9 @@ public:
     FileReading(const std::string& argument, ReadingOptions options);
 
     const std::string& argument() const { return m_input.argument(); }
+    /// Where the person's own bytes lie.
+    const std::string& originalPath() const { return m_input.originalPath(); }
+    const ReadingOptions& options() const { return m_options; }
     const FormatTraits& traits() const { return *m_plan.traits; }
     const FileCensus& census() const { return m_plan.census; }
     /// What was found in the file; null where it is read as it is.

@@ -3,19 +3,30 @@
 #include "cli/FileReports.h"
 
 #include <algorithm>
+#include <optional>
+#include <utility>
 
 #include "cli/StoreErrorJson.h"
 #include "cli/UsageError.h"
 
-ExitStatus FileReports::collect(const std::function<void()>& work) {
+ExitStatus FileReports::collect(const std::function<void()>& work, ImportReport* page) {
+    std::optional<StoreError> failure;
     try {
         work();
     } catch (const StoreError& error) {
-        end(StoreErrorJson::of(error));
-        m_console.report(error);
+        failure = error;
+    }
+    Json document = {{"files", std::move(m_files)}};
+    if (page != nullptr && page->isWanted())
+        writePage(*page, document);
+    if (failure)
+        document["error"] = StoreErrorJson::of(*failure);
+    if (m_console.json())
+        m_console.write(JsonText::of(document) + "\n");
+    if (failure) {
+        m_console.report(*failure);
         return ExitStatus::store;
     }
-    end(nullptr);
     return m_clean ? ExitStatus::done : ExitStatus::refused;
 }
 
@@ -30,13 +41,13 @@ void FileReports::add(const std::string& file, const std::function<Json()>& json
     m_console.report(file, messages);
 }
 
-void FileReports::end(const Json& error) {
-    if (!m_console.json())
-        return;
-    Json document = {{"files", m_files}};
-    if (!error.is_null())
-        document["error"] = error;
-    m_console.write(JsonText::of(document) + "\n");
+void FileReports::writePage(ImportReport& page, Json& document) {
+    const std::optional<Message> problem = page.write();
+    document["report"] = {{"file", page.name()}, {"written", !problem}};
+    if (problem) {
+        m_console.report(page.name(), {*problem});
+        m_clean = false;
+    }
 }
 
 void checkFiles(const std::vector<std::string>& files) {

@@ -8,6 +8,7 @@
 
 #include "cli/Console.h"
 #include "cli/ExitStatus.h"
+#include "cli/ImportReport.h"
 #include "cli/JsonText.h"
 
 /// Tells what became of the files of a call, each as soon as that is known.
@@ -16,8 +17,9 @@ public:
     explicit FileReports(Console& console) : m_console(console) {}
 
     /// Does `work`, which adds the report of each file, and ends the document. A
-    /// StoreError of it becomes part of the document, and the status.
-    ExitStatus collect(const std::function<void()>& work);
+    /// StoreError of it becomes part of the document, and the status. The page,
+    /// if one is given, is written whatever the work came to.
+    ExitStatus collect(const std::function<void()>& work, ImportReport* page = nullptr);
 
     /// What is to be said of a file (the shell's bytes): to the machine, who is not always
     /// there, in a line to a person, and of its problems to both.
@@ -25,7 +27,7 @@ public:
              const std::vector<Message>& messages);
 
 private:
-    void end(const Json& error);
+    void writePage(ImportReport& page, Json& document);
 
     Console& m_console;
     Json m_files = Json::array();

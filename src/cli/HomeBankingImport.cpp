@@ -132,6 +132,8 @@ void HomeBankingImport::judgeBookings(const HomeBankingWatch& watch, DataManager
     if (m_wishes.newOnly)
         leaveOutKnown(bookings, store);
     m_report.undatedCount = bookings.undated();
+    if (m_wishes.toldOf)
+        m_records = ImportedRecords::ofBookings(bookings);
     countRecords(bookings.count());
     if (bookings.count() > 0)
         BookingListBook::keep(model, *bookings.account(),

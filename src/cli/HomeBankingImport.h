@@ -9,6 +9,7 @@
 #include "cli/HomeBankingReport.h"
 #include "cli/HomeBankingRows.h"
 #include "cli/HomeBankingWatch.h"
+#include "cli/ImportedRecords.h"
 #include "cli/StoreAtPath.h"
 #include "cli/XmlDocumentFile.h"
 #include "cli/XmlList.h"
@@ -20,6 +21,7 @@ struct HomeBankingWishes {
     bool keepPartial = false;
     bool again = false;   ///< also a list that was imported before
     bool newOnly = false; ///< leaves out bookings that the store has
+    bool toldOf = false;  ///< a page tells of the bookings
 };
 
 /// The import of one home-banking document into a store: one transaction, which
@@ -33,6 +35,10 @@ public:
     /// Throws StoreError; `report` then says how far it came.
     void run(StoreAtPath& store, const Console& console);
     const HomeBankingReport& report() const { return m_report; }
+    /// The bookings that it made, kept or not; nothing unless the person wants them told.
+    const ImportedRecords& records() const { return m_records; }
+    const XmlText& text() const { return m_text; }
+    const XmlList& list() const { return m_list; }
 
 private:
     void askForWords();
@@ -52,5 +58,6 @@ private:
     XmlText m_text;
     XmlList m_list;
     HomeBankingReport m_report;
+    ImportedRecords m_records;
     bool m_failed = false; ///< the document as a whole
 };

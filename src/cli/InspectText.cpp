@@ -35,18 +35,6 @@ std::string_view encodingName(Encoding encoding) {
     return EncodingNames::name(encoding == Encoding::ascii ? Encoding::utf8 : encoding);
 }
 
-std::string balanceText(BalanceProof proof) {
-    switch (proof) {
-    case BalanceProof::certified:
-        return "bestätigt die Lesart";
-    case BalanceProof::broken:
-        return "passt nicht überall";
-    case BalanceProof::none:
-        break;
-    }
-    return "keiner in der Datei";
-}
-
 Json delimiterJson(const IntakeResult& result) {
     if (result.delimiter == '\0')
         return nullptr;
@@ -61,22 +49,6 @@ Json columnsJson(const IntakeResult& result) {
     return columns;
 }
 
-std::string lineEndsText(LineEnds ends) {
-    switch (ends) {
-    case LineEnds::lf:
-        return "LF";
-    case LineEnds::crlf:
-        return "CRLF";
-    case LineEnds::cr:
-        return "CR";
-    case LineEnds::mixed:
-        return "gemischt";
-    case LineEnds::none:
-        break;
-    }
-    return "keine";
-}
-
 std::string columnsText(const IntakeResult& result) {
     std::string text;
     for (const auto& [field, inputs] : result.columns) {
@@ -86,8 +58,6 @@ std::string columnsText(const IntakeResult& result) {
     }
     return text;
 }
-
-std::string percent(double share) { return std::to_string(std::lround(share * kHundredths)) + " %"; }
 
 std::string placeOf(const Reason& reason) {
     std::string place;
@@ -109,11 +79,47 @@ void writeLine(Console& console, std::string_view label, std::string_view value)
 
 namespace InspectText {
 
+std::string encodingText(const IntakeResult& result) {
+    return std::string(encodingName(result.encoding)) + (result.bom ? " mit Bytefolgemarke" : "");
+}
+
+std::string lineEndsText(LineEnds ends) {
+    switch (ends) {
+    case LineEnds::lf:
+        return "LF";
+    case LineEnds::crlf:
+        return "CRLF";
+    case LineEnds::cr:
+        return "CR";
+    case LineEnds::mixed:
+        return "gemischt";
+    case LineEnds::none:
+        break;
+    }
+    return "keine";
+}
+
+std::string balanceText(BalanceProof proof) {
+    switch (proof) {
+    case BalanceProof::certified:
+        return "bestätigt die Lesart";
+    case BalanceProof::broken:
+        return "passt nicht überall";
+    case BalanceProof::none:
+        break;
+    }
+    return "keiner in der Datei";
+}
+
+std::string percent(double share) { return std::to_string(std::lround(share * kHundredths)) + " %"; }
+
+std::string reasonText(const Reason& reason) { return reason.text + placeOf(reason); }
+
 void writeJson(Console& console, std::string_view file, const IntakeResult& result,
                const std::optional<std::string>& profile, const std::vector<Message>& messages) {
     Json reasons = Json::array();
     for (const Reason& reason : result.reasons)
-        reasons.push_back(reason.text + placeOf(reason));
+        reasons.push_back(reasonText(reason));
     Json document = {{"file", file},
                      {"format", static_cast<int>(result.format)},
                      {"encoding", encodingName(result.encoding)},
@@ -140,8 +146,7 @@ void writeTable(Console& console, std::string_view file, const IntakeResult& res
     const bool delimited = result.delimiter != '\0';
     writeLine(console, "Datei:", file);
     writeLine(console, "Format:", HostText::toUtf8(FormatTable::labelOf(result.format)));
-    writeLine(console,
-              "Kodierung:", std::string(encodingName(result.encoding)) + (result.bom ? " mit Bytefolgemarke" : ""));
+    writeLine(console, "Kodierung:", encodingText(result));
     writeLine(console, "Zeilenenden:", lineEndsText(result.lineEnds));
     if (delimited) {
         writeLine(console, "Vorspann:",
@@ -162,7 +167,7 @@ void writeTable(Console& console, std::string_view file, const IntakeResult& res
     if (!result.reasons.empty())
         console.write("Gründe:\n");
     for (const Reason& reason : result.reasons)
-        console.write("  - " + SafeText::printable(reason.text + placeOf(reason)) + "\n");
+        console.write("  - " + SafeText::printable(reasonText(reason)) + "\n");
 }
 
 } // namespace InspectText

@@ -19,4 +19,12 @@ void writeJson(Console& console, std::string_view file, const IntakeResult& resu
                const std::optional<std::string>& profile, const std::vector<Message>& messages);
 void writeTable(Console& console, std::string_view file, const IntakeResult& result);
 
+/// The words for what was found; German, UTF-8.
+std::string encodingText(const IntakeResult& result);
+std::string lineEndsText(LineEnds ends);
+std::string balanceText(BalanceProof proof);
+std::string percent(double share);
+/// With the place that decided.
+std::string reasonText(const Reason& reason);
+
 } // namespace InspectText

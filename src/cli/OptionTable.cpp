@@ -41,6 +41,8 @@ const OptionSpec kOptions[] = {
      "--again"},
     {"--new-only", nullptr, &Options::newOnly,
      "nur übernehmen, was noch nicht im Bestand ist; das Übrige wird aufgezählt", "--new-only"},
+    {"--report", "DATEI", &Options::report, "eine Seite über den Import schreiben, als .html oder .md",
+     "--report bericht.html"},
     {"--keep-partial", nullptr, &Options::keepPartial, "bei einem Fehler behalten, was bis dahin übernommen wurde",
      "--keep-partial"},
     {"--to", "FORMAT", &Options::to, "das Format der Ausgabe: csv, json, hledger oder qif", "--to csv"},

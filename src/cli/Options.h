@@ -22,6 +22,7 @@ struct Options {
     std::optional<std::string> limit;
     std::optional<std::string> profile;
     std::optional<std::string> saveProfile;
+    std::optional<std::string> report;
     std::optional<std::string> color;
     std::optional<std::string> to;
     std::optional<std::string> session;

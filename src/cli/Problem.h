@@ -55,5 +55,6 @@ enum class Problem {
     profileSaved,
     profileNotSaved,
     outputFailed,
+    reportFailed,
     unexpected,
 };

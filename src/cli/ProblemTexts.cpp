@@ -120,6 +120,11 @@ constexpr ProblemTexts kTexts[] = {
      "Gespeichert wird, was sich entscheiden ließ; nennen Sie die fehlende Option mit."},
     {Problem::outputFailed, "output-failed", error, "Die Ausgabe lässt sich nicht schreiben.",
      "Ist der Datenträger voll?"},
+    {Problem::reportFailed, "report-failed", error,
+     "Der Bericht „{}“ lässt sich nicht schreiben: {}. Der Import selbst ist davon nicht berührt: Was übernommen "
+     "wurde, "
+     "steht im Bestand.",
+     "„dmimport show sessions“ zeigt, was im Bestand ist."},
     {Problem::unexpected, "unexpected", error, "Unerwarteter Fehler: {}.", ""},
 };
 

@@ -112,6 +112,7 @@ void readDelimited(const PhysicalLines& physical, const InspectionOptions& optio
     result.confidence = plan.undecided ? std::min(plan.confidence, 0.3) : plan.confidence;
     result.reasons = plan.reasons;
     result.undecided = plan.undecided;
+    result.balances = BalanceSeries::of(file);
     if (result.format == Import::eFormatStarMoney) {
         if (!plan.undecided && StarMoneyLayout::isReadRight(file, physical)) {
             StarMoneyLayout::prepareFixed(physical, result.prepared);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "framework/E_SupportedImportFormats.h"
+#include "intake/BalanceSeries.h"
 #include "intake/Dates.h"
 #include "intake/Encoding.h"
 #include "intake/InspectionOptions.h"
@@ -35,6 +36,7 @@ struct IntakeResult {
     std::optional<char> decimalMark;
     std::map<std::string, std::vector<int>> columns; ///< field to input columns (from 0)
     BalanceProof balance = BalanceProof::none;
+    std::vector<BalanceOfDay> balances; ///< of a running balance that the file has
     double confidence = 0.0;
     std::vector<Reason> reasons;
     /// Set when nothing is imported, with what would decide it.

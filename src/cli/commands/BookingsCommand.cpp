@@ -5,7 +5,7 @@
 
 namespace {
 
-const char* const kOptions[] = {"--store", "--verbatim", "--again", "--new-only", "--keep-partial"};
+const char* const kOptions[] = {"--store", "--verbatim", "--again", "--new-only", "--keep-partial", "--report"};
 
 ExitStatus run(const Options& options, Console& console) {
     return importHomeBanking(HomeBankingDocument::bookingList(), options, console);
