@@ -1,5 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The ImportModule authors
 // SPDX-License-Identifier: MIT
+#include <cstdio>
+#include <cstdlib>
+
 #include "cli/DmimportFixture.h"
 
 namespace {
