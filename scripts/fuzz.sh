@@ -15,7 +15,7 @@ cd "$(dirname "${BASH_SOURCE[0]}")/.."
 declare -A longest=(
     [date_parsing]=512 [amounts]=900 [line_splitting]=700 [preview_table]=600 [delimiter_detection]=1024
     [row_pipeline]=10000 [csv_import]=9000 [star_money]=6000 [qif_import]=6000
-    [account_list]=6000 [booking_list]=6000 [intake_inspection]=6000 [intake_preparation]=6000 [csv_export]=600 [store_opening]=400
+    [account_list]=6000 [booking_list]=6000 [xml_list]=6000 [intake_inspection]=6000 [intake_preparation]=6000 [csv_export]=600 [store_opening]=400
 )
 
 seconds=60
