@@ -83,7 +83,8 @@ void writeSums(const FileChapter& file, PageWriter& out) {
                       " in den Summen auf den Cent gerundet.");
     std::optional<LinePlot> plot = LinePlot::of("Saldo laut Datei", file.balances);
     if (!plot)
-        plot = LinePlot::of("Aufgelaufene Summe der übernommenen Datensätze", digest.course());
+        plot =
+            LinePlot::of("Aufgelaufene Summe der übernommenen Datensätze", digest.course(), LinePlot::Scale::fromZero);
     if (plot) {
         out.heading(3, "Verlauf");
         out.plot(*plot);

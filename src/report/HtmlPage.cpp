@@ -2,6 +2,8 @@
 // SPDX-License-Identifier: MIT
 #include "report/HtmlPage.h"
 
+#include <algorithm>
+
 #include "page.css.h"
 #include "report/HtmlPlot.h"
 #include "report/HtmlText.h"
@@ -18,6 +20,12 @@ std::string_view classOf(PageWriter::Tone tone) {
         break;
     }
     return "bad";
+}
+
+/// Lines of files need all the width that there is.
+bool needsWidth(const PageTable& table) {
+    return std::any_of(table.columns.begin(), table.columns.end(),
+                       [](const PageTable::Column& column) { return column.kind == PageTable::Kind::raw; });
 }
 
 /// The beginning of a cell, without its closing bracket.
@@ -89,7 +97,8 @@ void HtmlPage::facts(const std::vector<PageFact>& facts) {
 
 void HtmlPage::table(const PageTable& table) {
     // A region of its own, which the keyboard can scroll where the window is narrow.
-    m_text += "<div class=wide role=region tabindex=0 aria-label=\"";
+    m_text += needsWidth(table) ? "<div class=\"wide all\"" : "<div class=wide";
+    m_text += " role=region tabindex=0 aria-label=\"";
     HtmlText::appendEscaped(m_text, table.caption);
     m_text += "\">\n<table>\n";
     element("caption", table.caption);

@@ -31,11 +31,12 @@ std::int64_t stepFor(std::int64_t range) {
     }
 }
 
-std::vector<std::int64_t> ticksFor(std::int64_t low, std::int64_t high) {
+std::vector<std::int64_t> ticksFor(std::int64_t low, std::int64_t high, bool fromZero) {
     // Nothing is a good place to begin where it does not flatten the line.
-    if (low > 0 && low <= high - low)
+    const std::int64_t range = high - low;
+    if (low > 0 && (fromZero || low <= range))
         low = 0;
-    if (high < 0 && -high <= high - low)
+    if (high < 0 && (fromZero || -high <= range))
         high = 0;
     const std::int64_t step = stepFor(high - low);
     std::vector<std::int64_t> ticks = {floorTo(low, step)};
@@ -56,7 +57,7 @@ std::int64_t daysBetween(const DayValue& from, const DayValue& to) {
 
 } // namespace
 
-std::optional<LinePlot> LinePlot::of(std::string title, std::vector<DayValue> values) {
+std::optional<LinePlot> LinePlot::of(std::string title, std::vector<DayValue> values, Scale scale) {
     if (values.size() < 2)
         return std::nullopt;
     const auto [low, high] = std::minmax_element(
@@ -68,7 +69,7 @@ std::optional<LinePlot> LinePlot::of(std::string title, std::vector<DayValue> va
     plot.title = std::move(title);
     plot.description = "Von " + told(values.front()) + " bis " + told(values.back()) + "; am niedrigsten " +
                        told(*low) + ", am höchsten " + told(*high) + ".";
-    plot.ticks = ticksFor(low->cents, high->cents);
+    plot.ticks = ticksFor(low->cents, high->cents, scale == Scale::fromZero);
     plot.values = std::move(values);
     return plot;
 }

@@ -16,8 +16,13 @@ struct LinePlot {
     std::vector<DayValue> values;    ///< at least two, ascending
     std::vector<std::int64_t> ticks; ///< round values, ascending; the first and the last one are the ends of the scale
 
+    enum class Scale {
+        any,     ///< from where the values are
+        fromZero ///< with the zero in any case
+    };
+
     /// Nothing for fewer than two days.
-    static std::optional<LinePlot> of(std::string title, std::vector<DayValue> values);
+    static std::optional<LinePlot> of(std::string title, std::vector<DayValue> values, Scale scale = Scale::any);
 
     std::int64_t days() const; ///< between the first and the last one; above 0
     /// Whole steps of `width` between the first day and that of `value`.

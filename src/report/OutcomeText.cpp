@@ -47,6 +47,10 @@ std::string sentence(const FileChapter& file) {
     if (isAllKnown(file))
         return "Nichts wurde übernommen, weil nichts neu ist: " + recordsOf(records.known) +
                (records.known == 1 ? " der Datei steht" : " der Datei stehen") + " schon im Bestand.";
+    if (!file.taken && records.known != 0)
+        return "Aus dieser Datei wurde nichts übernommen: " + recordsOf(records.known) +
+               (records.known == 1 ? " steht" : " stehen") + " schon im Bestand, " +
+               GermanText::grouped(records.refused) + (records.refused == 1 ? " wurde" : " wurden") + " abgelehnt.";
     if (!file.taken)
         return "Aus dieser Datei wurde nichts übernommen. Der Bestand ist so, wie er vorher war.";
     std::string text = recordsOf(records.imported) + (records.imported == 1 ? " wurde" : " wurden") + " übernommen";

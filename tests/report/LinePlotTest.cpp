@@ -44,6 +44,14 @@ TEST(LinePlot, ScaleIsRoundAndHoldsTheLine) {
     }
 }
 
+TEST(LinePlot, SumBeginsAtNothing) {
+    const std::vector<DayValue> values = {{kFirst, 38130}, {kLast, 33251}};
+    EXPECT_EQ(LinePlot::of("t", values)->ticks.front(), 33000);
+    EXPECT_EQ(LinePlot::of("t", values, LinePlot::Scale::fromZero)->ticks.front(), 0);
+    const std::vector<DayValue> debts = {{kFirst, -38130}, {kLast, -33251}};
+    EXPECT_EQ(LinePlot::of("t", debts, LinePlot::Scale::fromZero)->ticks.back(), 0);
+}
+
 TEST(LinePlot, LargestAmountsHaveAScale) {
     constexpr std::int64_t kMost = 900'000'000'000'000'000;
     const std::optional<LinePlot> plot = LinePlot::of("t", {{kFirst, -kMost}, {kLast, kMost}});
