@@ -7,6 +7,6 @@
 
 /// What something was worth at the end of a day, in hundredths.
 struct DayValue {
-    std::chrono::year_month_day day;
+    std::chrono::year_month_day day{};
     std::int64_t cents = 0;
 };

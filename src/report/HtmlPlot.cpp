@@ -59,7 +59,7 @@ void append(std::string& out, const LinePlot& plot, std::size_t number) {
     out += "<figure style=\"--letters:" + std::to_string(letters) + "\">\n<figcaption>";
     HtmlText::appendEscaped(out, plot.title);
     out += "</figcaption>\n<div class=plot>\n<svg role=\"img\" viewBox=\"0 0 " + std::to_string(kWidth) + " " +
-           std::to_string(kHeight) + "\" preserveAspectRatio=\"none\" aria-labelledby=\"" + name + "t " + name +
+           std::to_string(kHeight) + R"(" preserveAspectRatio="none" aria-labelledby=")" + name + "t " + name +
            "d\">\n<title id=\"" + name + "t\">";
     HtmlText::appendEscaped(out, plot.title);
     out += "</title>\n<desc id=\"" + name + "d\">";
@@ -67,10 +67,10 @@ void append(std::string& out, const LinePlot& plot, std::size_t number) {
     out += "</desc>\n";
     for (const std::int64_t tick : plot.ticks) {
         const std::string y = std::to_string(down(plot, tick));
-        out += (tick == 0 ? "<path class=\"zero\" d=\"M0 " : "<path class=\"grid\" d=\"M0 ") + y + "H" +
+        out += (tick == 0 ? R"(<path class="zero" d="M0 )" : R"(<path class="grid" d="M0 )") + y + "H" +
                std::to_string(kWidth) + "\"/>\n";
     }
-    out += "<path class=\"line\" d=\"" + pathOf(plot) + "\"/>\n</svg>\n";
+    out += R"(<path class="line" d=")" + pathOf(plot) + "\"/>\n</svg>\n";
     for (const std::int64_t tick : plot.ticks)
         out += "<span class=tick aria-hidden=true style=\"bottom:" + share(plot, tick) + "%\">" + plot.label(tick) +
                "</span>\n";

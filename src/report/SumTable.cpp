@@ -61,6 +61,7 @@ std::int64_t turnover(const Category& category) {
 
 std::set<std::string> largest(const std::map<std::string, IncomeAndExpenses>& categories) {
     std::vector<const Category*> all;
+    all.reserve(categories.size());
     for (const Category& category : categories)
         all.push_back(&category);
     std::stable_sort(all.begin(), all.end(),

@@ -18,6 +18,7 @@ std::vector<std::int64_t> valuesByColumn(const LinePlot& plot) {
     for (const DayValue& value : plot.values)
         last[static_cast<std::size_t>(plot.across(value, kColumns - 1))] = value.cents;
     std::vector<std::int64_t> values;
+    values.reserve(last.size());
     for (const std::optional<std::int64_t>& value : last)
         values.push_back(value ? *value : values.back());
     return values;
