@@ -189,8 +189,8 @@ TEST_F(KnownRecordsTest, UndoneRecordsAreNewAgain) {
 
 TEST_F(KnownRecordsTest, UndatedRecordsAreToldByTheirCategory) {
     write("a.qif", "!Type:Cat\nNEssen\n^\nNReisen\nB10.00\n^\n!Type:Bank\nD13.5.2004\nT1.00\nPA\n^\n");
-    write("b.qif",
-          "!Type:Cat\nNReisen\nB10.00\n^\nNSport\nB5.00\n^\n!Type:Bank\nD13.5.2004\nT1.00\nPA\n^\nD13.5.2004\nT2.00\nPA\n^\n");
+    write("b.qif", "!Type:Cat\nNReisen\nB10.00\n^\nNSport\nB5.00\n^\n!Type:Bank\nD13.5.2004\nT1.00\nPA\n^\nD13.5."
+                   "2004\nT2.00\nPA\n^\n");
     importFile({"a.qif"});
     const Json file = importFile({"b.qif", "--new-only"});
     EXPECT_EQ(file.at("records"), Json::parse(R"({"found":4,"imported":2,"refused":0,"known":2})"));
