@@ -27,10 +27,12 @@ BookingKey::BookingKey(const BookingFacts& facts) {
     appendBytes(m_bytes, static_cast<std::int32_t>(facts.day ? facts.day->time_since_epoch().count() : 0));
     appendBytes(m_bytes, facts.amount.value_or(0.0) + 0.0); // negative zero is zero
     TextFolding::append(m_bytes, facts.payee);
-    m_payee = m_bytes.size() - kTexts;
+    const std::size_t payeeEnd = m_bytes.size();
+    m_payee = payeeEnd - kTexts;
     m_bytes += kEnd;
     TextFolding::append(m_bytes, facts.purpose);
-    m_purpose = m_bytes.size() - kTexts - m_payee - 1;
+    const std::size_t purposeEnd = m_bytes.size();
+    m_purpose = purposeEnd - payeeEnd - 1;
     m_bytes += kEnd;
     if (!facts.day || (m_payee == 0 && m_purpose == 0)) {
         for (const std::string_view detail : facts.details) {
