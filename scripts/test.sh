@@ -7,6 +7,7 @@
 # usage: scripts/test.sh [OPTION...]     without options: the tests, built with g++
 #   --format     layout of the sources (scripts/lint.sh --format)
 #   --lint       layout and lint of the sources (scripts/lint.sh)
+#   --recent     layout of the sources, and lint of those that were changed last
 #   --clang      build with clang++, warnings are errors
 #   --sanitize   the tests under AddressSanitizer and UndefinedBehaviorSanitizer
 #   --coverage   the tests, instrumented, with a report (scripts/coverage.sh)
@@ -32,6 +33,11 @@ run_tests() {
 do_lint() {
     step "Layout and lint"
     scripts/lint.sh
+}
+
+do_recent() {
+    step "Layout, and lint of what was changed last"
+    scripts/lint.sh --recent
 }
 
 do_format() {
@@ -65,7 +71,7 @@ do_tests() {
 declare -A chosen=()
 for option in "$@"; do
     case $option in
-    --format | --lint | --clang | --sanitize | --coverage | --tests) chosen[${option#--}]=1 ;;
+    --format | --lint | --recent | --clang | --sanitize | --coverage | --tests) chosen[${option#--}]=1 ;;
     --all) chosen=([lint]=1 [clang]=1 [sanitize]=1 [coverage]=1 [tests]=1) ;;
     --help) usage && exit 0 ;;
     *)
@@ -81,7 +87,7 @@ fi
 
 step "Packages"
 scripts/install-packages.sh build
-for name in format lint clang sanitize coverage tests; do
+for name in format lint recent clang sanitize coverage tests; do
     [[ -n ${chosen[$name]:-} ]] || continue
     [[ $name == tests || $name == sanitize ]] || scripts/install-packages.sh check
     "do_$name"

@@ -73,7 +73,7 @@ private:
     void enterLines(const std::vector<LineUse>& uses) {
         // A library that gives up leaves the rest of the file unread.
         const bool gaveUp = m_reading.traits().recordPerLine && m_report.result == 0;
-        std::size_t rest = static_cast<std::size_t>(m_report.importedCount);
+        auto rest = static_cast<std::size_t>(m_report.importedCount);
         LineUse above = LineUse::blank;
         for (std::size_t i = 0; i < uses.size(); ++i) {
             const std::size_t line = i + 1;
