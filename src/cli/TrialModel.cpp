@@ -9,10 +9,10 @@
 
 namespace {
 
-constexpr const char* kAccounts = "HomeBankingImport";
-constexpr const char* kRecords = "DataSets"; // of the root, and of an account
-constexpr const char* kSessions = "Importsessions";
-constexpr const char* kLists = "Buchungslisten";
+constexpr const char* kTrialAccounts = "HomeBankingImport";
+constexpr const char* kTrialRecords = "DataSets"; // of the root, and of an account
+constexpr const char* kTrialSessions = "Importsessions";
+constexpr const char* kTrialLists = "Buchungslisten";
 
 RecordNode& root(DataManager& manager) { return manager.model().root(); }
 
@@ -38,9 +38,9 @@ void appendRows(TableNode& from, TableNode& to) {
 
 TrialModel::TrialModel(DataManager& store) {
     copyFields(root(store), root(m_model));
-    TableNode& accounts = ModelTables::table(root(store), kAccounts);
+    TableNode& accounts = ModelTables::table(root(store), kTrialAccounts);
     for (unsigned row = 1; row <= accounts.getNodeCount(); ++row) {
-        RecordNode& copy = *ModelTables::table(root(m_model), kAccounts).append();
+        RecordNode& copy = *ModelTables::table(root(m_model), kTrialAccounts).append();
         if (const RecordNode* account = accounts.row(row)) // else it cannot be read, and the store tells
             copyFields(*account, copy);
     }
@@ -48,16 +48,16 @@ TrialModel::TrialModel(DataManager& store) {
 
 void TrialModel::moveInto(DataManager& store) {
     setFields(root(m_model), root(store));
-    for (const char* table : {kRecords, kSessions, kLists})
+    for (const char* table : {kTrialRecords, kTrialSessions, kTrialLists})
         appendRows(ModelTables::table(root(m_model), table), ModelTables::table(root(store), table));
-    TableNode& accounts = ModelTables::table(root(m_model), kAccounts);
+    TableNode& accounts = ModelTables::table(root(m_model), kTrialAccounts);
     for (unsigned row = 1; row <= accounts.getNodeCount(); ++row) {
         RecordNode& made = *accounts.row(row);
-        TableNode& bookings = ModelTables::table(made, kRecords);
+        TableNode& bookings = ModelTables::table(made, kTrialRecords);
         if (bookings.getNodeCount() == 0)
             continue;
-        RecordNode& account = *ModelTables::table(root(store), kAccounts).row(row);
+        RecordNode& account = *ModelTables::table(root(store), kTrialAccounts).row(row);
         setFields(made, account);
-        appendRows(bookings, ModelTables::table(account, kRecords));
+        appendRows(bookings, ModelTables::table(account, kTrialRecords));
     }
 }
