@@ -26,14 +26,15 @@ constexpr ReasonText kReasons[] = {
     {Resemblance::Reason::otherDay, "other-day", "gleicher Betrag und Empfänger, "},
 };
 
-constexpr bool inOrder() {
+constexpr bool reasonsAreInOrder() {
     for (std::size_t i = 0; i < std::size(kReasons); ++i) {
         if (static_cast<std::size_t>(kReasons[i].reason) != i)
             return false;
     }
     return true;
 }
-static_assert(inOrder() && std::size(kReasons) == static_cast<std::size_t>(Resemblance::Reason::otherDay) + 1);
+static_assert(reasonsAreInOrder() &&
+              std::size(kReasons) == static_cast<std::size_t>(Resemblance::Reason::otherDay) + 1);
 
 const ReasonText& textOf(Resemblance::Reason reason) { return kReasons[static_cast<std::size_t>(reason)]; }
 

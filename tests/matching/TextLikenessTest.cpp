@@ -15,14 +15,14 @@ TEST(TextLikeness, IsTheShareOfCommonPairs) {
     EXPECT_DOUBLE_EQ(TextLikeness::of("aaa", "aa"), 2.0 / 3.0); // a pair counts as often as both have it
 }
 
-struct Case {
+struct LikenessCase {
     const char* a;
     const char* b;
     bool likely;
     const char* why;
 };
 
-constexpr Case kCases[] = {
+constexpr LikenessCase kLikenessCases[] = {
     {"stadtwerke", "", true, "one says nothing"},
     {"stadtwerkemusterstadtgmbh", "stadtwerke", true, "cut off"},
     {"rechnung4711", "eref+123rechnung4711", true, "with something before it"},
@@ -32,7 +32,7 @@ constexpr Case kCases[] = {
 };
 
 TEST(TextLikeness, AcceptsOtherWordingsOnly) {
-    for (const Case& row : kCases) {
+    for (const LikenessCase& row : kLikenessCases) {
         EXPECT_EQ(TextLikeness::isLikely(row.a, row.b), row.likely) << row.why;
         EXPECT_EQ(TextLikeness::isLikely(row.b, row.a), row.likely) << row.why << ", turned round";
     }
