@@ -5,45 +5,17 @@
 
 #include "intake/HostTextReader.h"
 #include "intake/Intake.h"
+#include "support/chosenOptions.h"
 #include "support/FuzzInput.h"
 #include "support/FuzzTarget.h"
 #include "support/require.h"
 
-// The first three bytes choose what the user fixed (a bit each: encoding,
-// delimiter, header, date order, decimal mark, columns, undated records, format)
-// and to what; the rest is the file.
+// The first byte chooses the format, the next two what the user fixed; the rest
+// is the file.
 namespace {
 
-constexpr Encoding kEncodings[] = {Encoding::ascii,   Encoding::utf8,   Encoding::utf16le,
-                                   Encoding::utf16be, Encoding::latin1, Encoding::windows1252};
-constexpr DateOrder kOrders[] = {DateOrder::dayMonthYear, DateOrder::monthDayYear, DateOrder::yearMonthDay};
-constexpr char kDelimiters[] = {';', ',', '\t', '|', ':', ' ', '"', 'a'};
 constexpr Import::E_SupportedImportFormats kFormats[] = {Import::eFormatCSV, Import::eFormatQIF,
                                                          Import::eFormatStarMoney, Import::eFormatCSV};
-
-InspectionOptions readOptions(FuzzInput& input) {
-    const unsigned fixed = input.byte();
-    const unsigned to = input.byte();
-    InspectionOptions options;
-    if ((fixed & 1U) != 0)
-        options.encoding = kEncodings[to % std::size(kEncodings)];
-    if ((fixed & 2U) != 0)
-        options.delimiter = kDelimiters[to % std::size(kDelimiters)];
-    if ((fixed & 4U) != 0)
-        options.header = to % 2 == 0;
-    if ((fixed & 8U) != 0)
-        options.dateOrder = kOrders[to % std::size(kOrders)];
-    if ((fixed & 16U) != 0)
-        options.decimalMark = to % 2 == 0 ? ',' : '.';
-    if ((fixed & 32U) != 0) {
-        options.columns = {{"Datum", static_cast<int>(to % 5)},
-                           {"Betrag", static_cast<int>(to / 5 % 5)},
-                           {"Verwendungszweck", static_cast<int>(to / 25 % 5)}};
-        options.furtherPurpose = {static_cast<int>(to % 7)};
-    }
-    options.allowUndated = (fixed & 64U) != 0;
-    return options;
-}
 
 bool same(const IntakeMessage& a, const IntakeMessage& b) {
     return a.line == b.line && a.code == b.code && a.text == b.text && a.refusal == b.refusal;
@@ -83,7 +55,7 @@ void requireSame(const IntakeResult& a, const IntakeResult& b) {
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t size) {
     FuzzInput input(bytes, size);
     const unsigned way = input.byte();
-    const InspectionOptions options = readOptions(input);
+    const InspectionOptions options = chosenOptions(input);
     const std::string_view file = input.rest();
 
     const HostFileText text = HostTextReader::read(file, options.encoding);

@@ -5,12 +5,14 @@
 #include <gtest/gtest.h>
 
 #include "intake/FileReading.h"
+#include "support/chosenOptions.h"
 #include "support/FuzzInput.h"
 #include "support/FuzzTarget.h"
 
-// The first byte chooses the format (by content, list, QIF, StarMoney), the rest
-// is a file that goes through the intake and then through the library; what its
-// tests demand of every file is demanded here.
+// The first byte chooses the format (by content, list, QIF, StarMoney) and whether
+// two bytes with what the user fixed follow; the rest is a file that goes through
+// the intake and then through the library. What the tests demand of every file is
+// demanded here.
 namespace {
 
 Import::E_SupportedImportFormats formatOf(unsigned choice, std::string_view file) {
@@ -25,8 +27,12 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* bytes, std::size_t siz
     // An expectation that fails ends the program with its text.
     testing::GTEST_FLAG(throw_on_failure) = true;
     FuzzInput input(bytes, size);
-    const unsigned choice = input.choice(4);
+    const unsigned way = input.byte();
+    InspectionOptions options;
+    if ((way & 4U) != 0)
+        options = chosenOptions(input);
+    options.encoding.reset(); // the lines are counted in the encoding that the bytes tell
     const std::string_view file = input.rest();
-    const FileReading reading(file, formatOf(choice, file));
+    const FileReading reading(file, formatOf(way & 3U, file), options);
     return 0;
 }
