@@ -3,12 +3,12 @@
 #include "cli/SessionBook.h"
 
 #include <cmath>
-#include <cstdint>
 #include <tuple>
 
 #include "cli/FieldText.h"
 #include "cli/ModelTables.h"
 #include "datamodel/DataModel.h"
+#include "report/CentSum.h"
 
 namespace {
 
@@ -31,7 +31,6 @@ bool isBefore(const DMDate& a, const DMDate& b) {
     return std::tuple(a.year(), a.month(), a.day()) < std::tuple(b.year(), b.month(), b.day());
 }
 
-/// Sums in hundredths, so that 65,000 amounts leave no crumbs.
 class Totals {
 public:
     explicit Totals(const RecordSpec& spec) : m_amount(*spec.fieldIndex("Betrag")), m_date(*spec.fieldIndex("Datum")) {}
@@ -39,7 +38,7 @@ public:
     void add(RecordNode& record) {
         const FieldNode& amount = record.fields()[m_amount];
         if (amount.kind() == DataType::eCurrency)
-            m_hundredths += std::llround(amount.getValue().getCurrency() * kHundredths);
+            m_sum += CentSum(std::llround(amount.getValue().getCurrency() * kHundredths));
         const FieldNode& date = record.fields()[m_date];
         if (date.kind() != DataType::eDate)
             return;
@@ -52,14 +51,14 @@ public:
             m_last = day;
     }
 
-    double sum() const { return static_cast<double>(m_hundredths) / kHundredths; }
+    double sum() const { return m_sum.inUnits(); }
     const DMDate& first() const { return m_first; }
     const DMDate& last() const { return m_last; }
 
 private:
     std::size_t m_amount; // places of the fields
     std::size_t m_date;
-    std::int64_t m_hundredths = 0;
+    CentSum m_sum;
     DMDate m_first;
     DMDate m_last;
 };

@@ -31,6 +31,12 @@ std::optional<std::int64_t> CentSum::drawable() const {
     return m_whole * kInWhole + m_cents;
 }
 
+double CentSum::inUnits() const {
+    const std::optional<std::int64_t> all = drawable();
+    // One division, so that the quotient is the double nearest to the sum.
+    return all ? static_cast<double>(*all) / static_cast<double>(kInWhole) : static_cast<double>(m_whole);
+}
+
 std::string CentSum::text() const {
     const bool negative = m_whole < 0 || m_cents < 0;
     const std::int64_t whole = m_whole < 0 ? -m_whole : m_whole;

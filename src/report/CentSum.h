@@ -21,6 +21,8 @@ public:
     bool isZero() const { return m_whole == 0 && m_cents == 0; }
     /// In hundredths; nothing where a drawing could not calculate with it any more.
     std::optional<std::int64_t> drawable() const;
+    /// The nearest double; sums of books are far below where it would not be exact to the hundredth.
+    double inUnits() const;
     /// `-1.234,56`
     std::string text() const;
 

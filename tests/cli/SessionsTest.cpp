@@ -48,6 +48,19 @@ TEST_F(SessionsTest, SessionTellsWhatItBrought) {
     EXPECT_EQ(session.at("Pruefsumme").get<std::string>().size(), 64U);
 }
 
+TEST_F(SessionsTest, SumThatIsMoreThanAnAmountCanBeStaysEmpty) {
+    std::string file = "Buchungstag;Empfaenger;Betrag\n";
+    for (int i = 0; i < 9300; ++i) // in hundredths more than 64 bits hold
+        file += "13.05.2004;A;9999999999999,99\n";
+    write("reich.csv", file);
+    write("gerade.csv", "Buchungstag;Empfaenger;Betrag\n13.05.2004;A;9999999999999,98\n13.05.2004;A;0,01\n");
+    importOnce("reich.csv", 0);
+    importOnce("gerade.csv", 0);
+    EXPECT_EQ(show("sessions").at(0).at("Summe"), nullptr);
+    EXPECT_EQ(show("sessions").at(0).at("Datensaetze"), 9300);
+    EXPECT_EQ(show("sessions").at(1).at("Summe"), 9999999999999.99);
+}
+
 TEST_F(SessionsTest, ChecksumIsTheSha256OfTheFileAsItLies) {
     write("bom.csv", "\xEF\xBB\xBF"
                      "Datum;Text;Betrag\r\n13.05.2004;A;1,50\r\n");

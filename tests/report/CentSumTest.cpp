@@ -57,6 +57,13 @@ TEST(CentSum, HoldsAFullTableOfTheLargestAmounts) {
     EXPECT_EQ(debts.text(), "-655.349.999.999.999.344,65");
     EXPECT_EQ(sum.drawable(), std::nullopt) << "64 bits of hundredths would not do";
     EXPECT_TRUE((sum + debts).isZero());
+    EXPECT_EQ(sum.inUnits(), 655349999999999344.0);
+}
+
+TEST(CentSum, InUnitsIsTheNearestDouble) {
+    EXPECT_EQ(sumOf({2015}).inUnits(), 20.15);
+    EXPECT_EQ(sumOf({-5}).inUnits(), -0.05);
+    EXPECT_EQ(sumOf({999999999999999}).inUnits(), 9999999999999.99);
 }
 
 TEST(CentSum, IsDrawnInHundredths) { EXPECT_EQ(sumOf({-150, 20}).drawable(), -130); }
