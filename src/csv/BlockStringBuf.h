@@ -9,7 +9,8 @@
 #include "framework/ImportModuleApi.h"
 
 /// An owned copy of one split row in one block: the lengths of the fields (32
-/// bits each, zero byte included), then their texts.
+/// bits each, zero byte included), then their texts, then room for the pointers
+/// that `restore` makes.
 class IMPORT_MODULE_API BlockStringBuf {
 public:
     /// Packs the first `count` fields of `row`, none of them null.
@@ -23,8 +24,10 @@ public:
     char** restore(int& count);
 
 private:
-    std::uint32_t m_size; ///< bytes of the block
+    struct Lengths;
+    BlockStringBuf(const UnknownRowInfo& row, const Lengths& lengths);
+
+    std::uint32_t m_size; ///< bytes of lengths and texts
     int m_count;
     std::unique_ptr<char[]> m_buffer;
-    std::unique_ptr<char*[]> m_columns; ///< into the block; made by `restore`, so that rows that wait stay small
 };

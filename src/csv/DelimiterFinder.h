@@ -19,6 +19,10 @@ public:
     char getBestDelimiter() const;
 
 private:
+    void countAll(const char* line);
+    void countLeft(const char* line);
+    void disqualify();
+
     /// Codes 1 to 126 are counted; Latin-1 letters never separate columns.
     static constexpr int kCodes = 127;
 
@@ -26,4 +30,10 @@ private:
     int m_firstLineCount[kCodes]; ///< occurrences in the first line; 0 once disqualified
     int m_balance[kCodes];        ///< occurrences, added on even lines (from 0) and taken off on odd ones
     int m_sign = 0;               ///< of the line scanned last; 0 before the first
+
+    // Few characters hold out for more than a handful of lines. Then those alone are counted.
+    static constexpr int kFew = 8;
+    static constexpr int kMany = -1;
+    char m_left[kFew];       ///< those in the running that still qualify
+    int m_leftCount = kMany; ///< how many; kMany as long as each character is counted
 };

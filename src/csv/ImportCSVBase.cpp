@@ -11,28 +11,49 @@
 
 namespace {
 
-/// The delimiter or the zero byte that ends `field`; a delimiter inside quotes
-/// does not. `firstQuote` is set where there is one.
-char* endOfField(char* field, char delimiter, char*& firstQuote) {
-    // Fields are short: a plain walk beats a search that has to be set up for each.
-    const auto nextStop = [delimiter](char* at) {
-        while (*at != '"' && *at != delimiter && *at != '\0')
-            ++at;
-        return at;
-    };
-    char* at = nextStop(field);
-    if (*at != '"')
-        return at;
-    firstQuote = at;
-    for (;;) {
-        at = std::strchr(at + 1, '"');
-        if (at == nullptr) // never closed: the rest of the line is the field
-            return firstQuote + std::strlen(firstQuote);
-        at = nextStop(at + 1);
+/// Finds where the fields of one line end.
+class FieldEnds {
+public:
+    FieldEnds(char* line, char delimiter) : m_end(line + std::strlen(line)), m_delimiter(delimiter) {
+        m_hasQuotes = std::memchr(line, '"', static_cast<std::size_t>(m_end - line)) != nullptr;
+    }
+
+    /// The delimiter or the zero byte that ends `field`; a delimiter inside
+    /// quotes does not. `firstQuote` is set where there is one.
+    char* endOf(char* field, char*& firstQuote) const {
+        if (m_hasQuotes)
+            return endOfQuotable(field, firstQuote);
+        void* found = std::memchr(field, m_delimiter, static_cast<std::size_t>(m_end - field));
+        return found != nullptr ? static_cast<char*>(found) : m_end;
+    }
+
+private:
+    char* endOfQuotable(char* field, char*& firstQuote) const {
+        char* at = nextStop(field);
         if (*at != '"')
             return at;
+        firstQuote = at;
+        for (;;) {
+            at = std::strchr(at + 1, '"');
+            if (at == nullptr) // never closed: the rest of the line is the field
+                return m_end;
+            at = nextStop(at + 1);
+            if (*at != '"')
+                return at;
+        }
     }
-}
+
+    char* nextStop(char* at) const {
+        // Fields are short: a plain walk beats a search for three that has to be set up for each.
+        while (*at != '"' && *at != m_delimiter && *at != '\0')
+            ++at;
+        return at;
+    }
+
+    char* m_end;
+    char m_delimiter;
+    bool m_hasQuotes;
+};
 
 } // namespace
 
@@ -83,10 +104,11 @@ int ImportCSVBase<T>::extractColumns(char* line) {
     const int limit = m_variableColumns ? kAnyWidthLimit : T::kColumns;
     int count = 0;
     char* at = line;
+    const FieldEnds ends(line, m_delimiter);
     for (;;) {
         char* const field = at;
         char* firstQuote = nullptr;
-        at = endOfField(field, m_delimiter, firstQuote);
+        at = ends.endOf(field, firstQuote);
         const bool endOfLine = *at == '\0';
         *at = '\0';
         m_row.m_columns[count++] = firstQuote != nullptr ? unquoteInPlace(firstQuote) : field;

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 
 #include "framework/AssertTypeSizes.h"
 
@@ -39,6 +40,10 @@ int ImportRecordSetImpl::addRow(int columns) {
 }
 
 bool ImportRecordSetImpl::setString(int row, int column, const std::string& text, bool header) {
+    return setString(row, column, std::string(text), header);
+}
+
+bool ImportRecordSetImpl::setString(int row, int column, std::string&& text, bool header) {
     if (cell(row, column) == nullptr)
         return false;
     if (header) {
@@ -46,7 +51,7 @@ bool ImportRecordSetImpl::setString(int row, int column, const std::string& text
             return false;
         m_hasHeader = true;
     }
-    m_rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = text;
+    m_rows[static_cast<std::size_t>(row)][static_cast<std::size_t>(column)] = std::move(text);
     return true;
 }
 
