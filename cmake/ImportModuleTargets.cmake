@@ -55,6 +55,9 @@ function(import_module_library name)
     add_library(ImportModule::${name} ALIAS ${name})
     target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:import_module_options>)
     target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>)
+    # Calls within a library go straight to it, and may be inlined: nobody replaces one of its functions.
+    target_compile_options(${name} PRIVATE $<BUILD_INTERFACE:-fno-semantic-interposition>)
+    target_link_options(${name} PRIVATE LINKER:-Bsymbolic-functions)
     set_target_properties(${name} PROPERTIES
         VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
 endfunction()
