@@ -25,6 +25,11 @@ StoreAtPath::StoreAtPath(const std::optional<std::string>& option)
         throw UsageError("--store: Der Name fehlt; schreiben Sie etwa --store bestand.db.");
 }
 
+StoreAtPath::~StoreAtPath() {
+    if (m_store)
+        m_store->leaveModel();
+}
+
 Store& StoreAtPath::forReading() {
     if (!m_store)
         m_store.emplace(Store::open(m_path, Store::Access::readOnly));

@@ -14,6 +14,10 @@ public:
     /// `option` as written with --store. Throws UsageError where it names none
     /// and the user has no data directory either.
     explicit StoreAtPath(const std::optional<std::string>& option);
+    /// The call is over, and the program with it: the model is left to the system.
+    ~StoreAtPath();
+    StoreAtPath(const StoreAtPath&) = delete;
+    StoreAtPath& operator=(const StoreAtPath&) = delete;
 
     const std::filesystem::path& path() const { return m_path; }
     /// Throws StoreError.

@@ -3,8 +3,11 @@
 #include "store/Store.h"
 
 #include <algorithm>
+#include <new>
 #include <optional>
 #include <string_view>
+#include <utility>
+#include <vector>
 
 #include "datamodel/DataModel.h"
 #include "datamodel/TableSpec.h"
@@ -96,6 +99,15 @@ public:
             throw StoreError(*m_tree->readError());
     }
 
+    void leaveModel() noexcept {
+        try {
+            static auto& left = *new std::vector<std::unique_ptr<DataManager>>; // known, and never destroyed
+            left.push_back(std::move(m_model));
+        } catch (const std::bad_alloc&) {
+            // Then it is released with the store.
+        }
+    }
+
 private:
     static RecordNode& root(DataManager& manager) { return manager.model().root(); }
 
@@ -150,3 +162,5 @@ void Store::commit() { m_impl->commit(); }
 void Store::rollback() { m_impl->rollback(); }
 
 void Store::throwIfUnreadable() const { m_impl->throwIfUnreadable(); }
+
+void Store::leaveModel() noexcept { m_impl->leaveModel(); }

@@ -66,6 +66,11 @@ public:
     /// there was any; to be called when reading is done.
     void throwIfUnreadable() const;
 
+    /// For a program that is about to end: its memory goes at once then, which is
+    /// faster than to release every record before. Only destroying the store is
+    /// allowed afterwards.
+    void leaveModel() noexcept;
+
 private:
     class Impl;
     explicit Store(std::unique_ptr<Impl> impl);
