@@ -22,15 +22,22 @@ struct FileCensus::Line {
         // Most lines have no quote: a search is many times faster than counting byte by byte.
         for (std::size_t quote = piece.find('"'); quote != std::string_view::npos; quote = piece.find('"', quote + 1))
             oddQuotes = !oddQuotes;
-        if (isBlankBeforeNul && !hasNul) {
-            const std::size_t content = piece.find_first_not_of(" \t");
-            isBlankBeforeNul = content == std::string_view::npos || piece[content] == '\0';
-        }
-        if (const std::size_t content = piece.find_first_not_of(" \t"); isBlank && content != std::string_view::npos) {
+        if (isBlank || isBlankBeforeNul)
+            lookForContent(piece);
+        hasNul = hasNul || piece.find('\0') != std::string_view::npos;
+    }
+
+    void lookForContent(std::string_view piece) {
+        std::size_t content = 0;
+        while (content < piece.size() && (piece[content] == ' ' || piece[content] == '\t'))
+            ++content;
+        const bool found = content < piece.size();
+        if (!hasNul)
+            isBlankBeforeNul = isBlankBeforeNul && (!found || piece[content] == '\0');
+        if (isBlank && found) {
             isBlank = false;
             first = piece[content];
         }
-        hasNul = hasNul || piece.find('\0') != std::string_view::npos;
     }
 };
 

@@ -69,9 +69,9 @@ std::string ranges(const std::vector<std::size_t>& numbers) {
         std::size_t last = first;
         while (last + 1 < numbers.size() && numbers[last + 1] <= numbers[last] + 1)
             ++last;
-        text += (text.empty() ? "" : ", ") + std::to_string(numbers[first]);
+        text.append(text.empty() ? "" : ", ").append(std::to_string(numbers[first]));
         if (last != first)
-            text += "-" + std::to_string(numbers[last]);
+            text.append("-").append(std::to_string(numbers[last]));
         first = last + 1;
     }
     return text;
