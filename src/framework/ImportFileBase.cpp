@@ -143,9 +143,10 @@ bool ImportFileBase::setColumnVal(int row, int column, const char* value, bool h
     if (header) {
         m_skipRow = true;
     } else if (index != Import::eColNone) {
-        return m_simulatedImport.setString(row, column, convertStringToDataType(index, value).asString(true, 2), false);
+        return m_simulatedImport.takeString(row, column, convertStringToDataType(index, value).asString(true, 2),
+                                            false);
     }
-    return m_simulatedImport.setString(row, column, value, header);
+    return m_simulatedImport.takeString(row, column, value, header);
 }
 
 bool ImportFileBase::completeRowImport() {

@@ -40,10 +40,10 @@ int ImportRecordSetImpl::addRow(int columns) {
 }
 
 bool ImportRecordSetImpl::setString(int row, int column, const std::string& text, bool header) {
-    return setString(row, column, std::string(text), header);
+    return takeString(row, column, text, header);
 }
 
-bool ImportRecordSetImpl::setString(int row, int column, std::string&& text, bool header) {
+bool ImportRecordSetImpl::takeString(int row, int column, std::string text, bool header) {
     if (cell(row, column) == nullptr)
         return false;
     if (header) {

@@ -25,7 +25,8 @@ public:
     /// Stores one cell. False, and nothing changes, outside the row, and for a
     /// header cell anywhere but in raw row 0.
     bool setString(int row, int column, const std::string& text, bool header);
-    bool setString(int row, int column, std::string&& text, bool header);
+    /// The same with a text that the caller gives away.
+    bool takeString(int row, int column, std::string text, bool header);
     /// Whether the raw row exists and some row is wide enough for the column.
     bool isValid(int row, int column) const;
 
