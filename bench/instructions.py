@@ -128,6 +128,10 @@ def main():
     figures = kept()
     grown = 0
     for run, counted in counts.items():
+        if run not in figures:
+            print(f"{run:14} {counted:>12,}  no figure: keep one with --write")
+            grown += 1
+            continue
         ratio = counted / figures[run]
         verdict = "too much" if ratio > ALLOWED else "less: keep it with --write" if ratio < 2 - ALLOWED else ""
         grown += ratio > ALLOWED
