@@ -18,8 +18,8 @@ struct TableSpec;
 /// a date field; the records made from it keep a pointer to it.
 class DM_API RecordSpec {
 public:
-    /// Names must be unique across fields and tables and not empty, and there
-    /// are at most 255 of both; throws std::invalid_argument otherwise.
+    /// Names must be unique across fields and tables, not empty and without a
+    /// zero byte, and there are at most 255 of both; throws std::invalid_argument otherwise.
     RecordSpec(std::vector<FieldSpec> fields, std::vector<TableSpec> tables);
     ~RecordSpec();
     RecordSpec(RecordSpec&&) noexcept;
@@ -35,6 +35,8 @@ public:
     std::optional<std::size_t> tableIndex(std::string_view name) const;
     /// Place of the field or table of that name, fields first, then tables.
     std::optional<std::size_t> position(std::string_view name) const;
+    /// The same for a zero-terminated name, which need not be measured.
+    std::optional<std::size_t> position(const char* name) const;
 
     /// Whether that date field takes the zero date from now on. What is already
     /// stored stays. Throws std::invalid_argument when there is no such date field.
@@ -45,6 +47,8 @@ public:
 
 private:
     void enter(std::string_view name);
+    template <typename Name, typename IsSame>
+    std::optional<std::size_t> search(Name name, IsSame isSame) const;
 
     std::vector<FieldSpec> m_fields;
     std::vector<TableSpec> m_tables;

@@ -52,6 +52,18 @@ TEST(RecordSpec, NamesOfOneHashAreToldApart) {
     EXPECT_EQ(spec.fieldIndex("aYcXe"), 1U);
     EXPECT_EQ(spec.fieldIndex("aZcZe"), 2U);
     EXPECT_EQ(spec.fieldIndex("aWcWe"), std::nullopt);
+    // Alike in their first six characters.
+    const RecordSpec days({{"Buchungstag", DataType::eDate}, {"Buchungstext", DataType::eString}}, {});
+    EXPECT_EQ(days.fieldIndex("Buchungstag"), 0U);
+    EXPECT_EQ(days.fieldIndex("Buchungstext"), 1U);
+    EXPECT_EQ(days.fieldIndex("Buchun"), std::nullopt);
+}
+
+TEST(RecordSpec, FindsNamesThatNeedNotBeMeasured) {
+    const RecordSpec spec({{"Tag", DataType::eDate}, {"Buchungstag", DataType::eDate}}, tablesNamed({"Zeilen"}));
+    for (const char* name : {"Tag", "Buchungstag", "Zeilen", "Tage", "Ta", "Buchungs", ""})
+        EXPECT_EQ(spec.position(name), spec.position(std::string_view(name))) << name;
+    EXPECT_EQ(spec.position("Zeilen"), 2U);
 }
 
 TEST(RecordSpec, HoldsUpTo255Children) {
@@ -69,6 +81,7 @@ TEST(RecordSpec, RefusesNamesThatCannotBeAddressed) {
     EXPECT_THROW(RecordSpec({{"A", DataType::eInteger}}, tablesNamed({"A"})), std::invalid_argument);
     EXPECT_THROW(RecordSpec({}, tablesNamed({"T", "T"})), std::invalid_argument);
     EXPECT_THROW(RecordSpec({{"", DataType::eInteger}}, {}), std::invalid_argument);
+    EXPECT_THROW(RecordSpec({{std::string("A\0B", 3), DataType::eInteger}}, {}), std::invalid_argument);
 }
 
 TEST(RecordSpec, WithoutChildrenFindsNothing) {
