@@ -29,6 +29,9 @@ public:
     }
     DataType getValue() const override { return {}; }
     bool setValue(const DataType&, const NDX&, int) override { return false; }
+
+protected:
+    ~PlainNode() = default;
 };
 
 /// One member of the book: how it is read, and how it is written. A write that
@@ -75,6 +78,9 @@ public:
     virtual RecordNode* row(unsigned number) const = 0; ///< from 1; null where there is none
     virtual void append() = 0;
     virtual void remove(const Node* row) = 0;
+
+protected:
+    ~TableNode() = default;
 };
 
 /// A list of the book as a table. The rows of an opened book are wrapped when the

@@ -20,7 +20,7 @@ std::string latin1FromUtf8(const std::string& utf8) {
     std::string text;
     for (std::size_t i = 0; i < utf8.size(); ++i) {
         const auto byte = static_cast<unsigned char>(utf8[i]);
-        const auto next = i + 1 < utf8.size() ? static_cast<unsigned char>(utf8[i + 1]) : 0U;
+        const auto next = static_cast<unsigned char>(i + 1 < utf8.size() ? utf8[i + 1] : '\0');
         if (byte < 0x80)
             text += utf8[i];
         else if ((byte == 0xC2 || byte == 0xC3) && next >= 0x80)
