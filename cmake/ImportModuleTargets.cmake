@@ -43,6 +43,12 @@ target_link_options(import_module_options INTERFACE
 include(CheckPIESupported)
 check_pie_supported(LANGUAGES CXX)
 
+# A host loads any version that bears the name it was built with: while the major number is 0, the minor one may break it.
+set(import_module_soversion ${PROJECT_VERSION_MAJOR})
+if(PROJECT_VERSION_MAJOR EQUAL 0)
+    set(import_module_soversion 0.${PROJECT_VERSION_MINOR})
+endif()
+
 set(CMAKE_CXX_EXTENSIONS OFF)
 set(CMAKE_CXX_VISIBILITY_PRESET hidden)
 set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
@@ -55,11 +61,15 @@ function(import_module_library name)
     add_library(ImportModule::${name} ALIAS ${name})
     target_link_libraries(${name} PRIVATE $<BUILD_INTERFACE:import_module_options>)
     target_include_directories(${name} PUBLIC $<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>)
+    # What a host includes is C++17; the sources are C++20.
+    target_compile_features(${name} PUBLIC cxx_std_17)
     # Calls within a library go straight to it, and may be inlined: nobody replaces one of its functions.
     target_compile_options(${name} PRIVATE $<BUILD_INTERFACE:-fno-semantic-interposition>)
-    target_link_options(${name} PRIVATE LINKER:-Bsymbolic-functions)
+    target_link_options(${name} PRIVATE LINKER:-Bsymbolic-functions
+        "LINKER:--version-script=${PROJECT_SOURCE_DIR}/cmake/exports.map")
     set_target_properties(${name} PROPERTIES
-        VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+        VERSION ${PROJECT_VERSION} SOVERSION ${import_module_soversion}
+        LINK_DEPENDS "${PROJECT_SOURCE_DIR}/cmake/exports.map")
 endfunction()
 
 # import_module_test(NAME SOURCES file... LIBRARIES target...): a GoogleTest

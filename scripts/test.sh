@@ -12,6 +12,7 @@
 #   --sanitize   the tests under AddressSanitizer and UndefinedBehaviorSanitizer
 #   --coverage   the tests, instrumented, with a report (scripts/coverage.sh)
 #   --tests      the tests, as without options
+#   --consumers  the same build used by others: each installed header alone, the library in a program's own build
 #   --all        all of these, in this order
 set -euo pipefail
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
@@ -67,12 +68,18 @@ do_tests() {
     run_tests quick
 }
 
+do_consumers() {
+    step "Programs of others"
+    build quick
+    run_tests consumer-full
+}
+
 # In the order of the list above, whatever the order on the command line.
 declare -A chosen=()
 for option in "$@"; do
     case $option in
-    --format | --lint | --recent | --clang | --sanitize | --coverage | --tests) chosen[${option#--}]=1 ;;
-    --all) chosen=([lint]=1 [clang]=1 [sanitize]=1 [coverage]=1 [tests]=1) ;;
+    --format | --lint | --recent | --clang | --sanitize | --coverage | --tests | --consumers) chosen[${option#--}]=1 ;;
+    --all) chosen=([lint]=1 [clang]=1 [sanitize]=1 [coverage]=1 [tests]=1 [consumers]=1) ;;
     --help) usage && exit 0 ;;
     *)
         printf 'test.sh: no such option: %s\n\n' "$option" >&2
@@ -87,7 +94,7 @@ fi
 
 step "Packages"
 scripts/install-packages.sh build
-for name in format lint recent clang sanitize coverage tests; do
+for name in format lint recent clang sanitize coverage tests consumers; do
     [[ -n ${chosen[$name]:-} ]] || continue
     [[ $name == tests || $name == sanitize ]] || scripts/install-packages.sh check
     "do_$name"

@@ -4,7 +4,9 @@
 
 #include <cstddef>
 #include <cstdint>
+#if __cplusplus >= 202002L
 #include <span>
+#endif
 
 #include "datamodel/FieldNode.h"
 #include "datamodel/RecordSpec.h"
@@ -29,8 +31,10 @@ public:
     bool setValue(const DataType& value, const NDX& where, int flags) override;
 
     const RecordSpec& spec() const { return *m_spec; }
+#if __cplusplus >= 202002L // a program in C++17 asks for the nodes by name or number
     std::span<FieldNode> fields();
     std::span<const FieldNode> fields() const;
+#endif
     /// The nested table of that index; never null for an index that the schema has.
     TableNode& table(std::size_t index);
     /// The same, but null where the table has not been asked for yet.
@@ -57,7 +61,9 @@ private:
     // What lies behind the record in its allocation.
     FieldNode* firstField() const;
     TableNode** firstTable() const;
+#if __cplusplus >= 202002L
     std::span<TableNode*> tables() const; // null where not made yet
+#endif
 
     const RecordSpec* m_spec;
     ModelContext* m_context;

@@ -1,0 +1,38 @@
+#!/usr/bin/env bash
+# SPDX-FileCopyrightText: 2026 The ImportModule authors
+# SPDX-License-Identifier: MIT
+#
+# Installs a build into an empty folder, moves that folder away and looks at what it holds.
+# What is there afterwards serves the other tests of the installed tree.
+#
+# usage: install-tree-test.sh CMAKE BUILD TREE
+set -euo pipefail
+shopt -s globstar
+cmake=$1 build=$2 tree=$3
+
+rm -rf "$tree" "$tree.first"
+"$cmake" --install "$build" --prefix "$tree.first" >"$build/install-tree.log"
+mv "$tree.first" "$tree" # nothing may know where it was
+
+failures=0
+expect() { # PATTERN: one file at least that fits
+    compgen -G "$tree/$1" >/dev/null || {
+        echo "missing: $1"
+        ((++failures))
+    }
+}
+expect 'bin/dmimport'
+expect 'include/import-module/framework/ImportExternData.h'
+for library in ImportModule Dm DmBasicServices; do
+    expect "lib*/**/lib$library.*"
+    expect "lib*/**/pkgconfig/$library.pc"
+done
+for part in Config ConfigVersion Targets; do
+    expect "lib*/**/cmake/ImportModule/ImportModule$part.cmake"
+done
+if grep -rIl --exclude='*.a' -e "$build" -e "$tree.first" "$tree"; then
+    echo "the files above name the folder of the build or of the installation"
+    ((++failures))
+fi
+"$tree/bin/dmimport" --version || ((++failures))
+exit $((failures > 0 ? 1 : 0))
