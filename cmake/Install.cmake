@@ -7,6 +7,8 @@ include(CMakePackageConfigHelpers)
 
 set(import_module_libraries DmBasicServices Dm ImportModule)
 set(import_module_includedir "${CMAKE_INSTALL_INCLUDEDIR}/import-module")
+# Distributions have other places for it.
+set(IMPORT_MODULE_ZSH_COMPLETIONS "${CMAKE_INSTALL_DATADIR}/zsh/site-functions" CACHE STRING "Where the completion for zsh goes")
 set(import_module_cmakedir "${CMAKE_INSTALL_LIBDIR}/cmake/ImportModule")
 
 # public_headers(TARGET HEADER...): below src/, and with the same paths below the one folder that hosts include.
@@ -64,4 +66,13 @@ pkg_config_file(DmBasicServices "Dates, texts, paths and bounds below the data m
 if(IMPORT_MODULE_BUILD_PROGRAM)
     set_target_properties(dmimport PROPERTIES INSTALL_RPATH "$ORIGIN/${from_bin_to_lib}")
     install(TARGETS dmimport RUNTIME COMPONENT Tools)
+    install(FILES docs/man/dmimport.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1" COMPONENT Tools)
+    install(FILES docs/man/dmimport-store.5 DESTINATION "${CMAKE_INSTALL_MANDIR}/man5" COMPONENT Tools)
+    install(FILES packaging/completions/dmimport.bash RENAME dmimport
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/bash-completion/completions" COMPONENT Tools)
+    install(FILES packaging/completions/_dmimport
+        DESTINATION "${IMPORT_MODULE_ZSH_COMPLETIONS}" COMPONENT Tools)
+    install(FILES packaging/completions/dmimport.fish
+        DESTINATION "${CMAKE_INSTALL_DATADIR}/fish/vendor_completions.d" COMPONENT Tools)
+    install(FILES packaging/mime/import-module.xml DESTINATION "${CMAKE_INSTALL_DATADIR}/mime/packages" COMPONENT Tools)
 endif()

@@ -22,6 +22,12 @@ expect() { # PATTERN: one file at least that fits
     }
 }
 expect 'bin/dmimport'
+expect 'share/man/man1/dmimport.1'
+expect 'share/man/man5/dmimport-store.5'
+expect 'share/bash-completion/completions/dmimport'
+expect 'share/zsh/*/_dmimport'
+expect 'share/fish/*/dmimport.fish'
+expect 'share/mime/packages/import-module.xml'
 expect 'include/import-module/framework/ImportExternData.h'
 for library in ImportModule Dm DmBasicServices; do
     expect "lib*/**/lib$library.*"
