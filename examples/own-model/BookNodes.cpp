@@ -82,8 +82,8 @@ Node* RecordNode::child(const std::string& name) const {
     return table != m_tables.end() ? table->second : nullptr;
 }
 
-// The names are the library's. A field that is not listed takes no value: an
-// import that assigns a column to it drops the value.
+// The names are the library's. Do not let anybody assign a column to a field that
+// is not listed: its records would stay half filled, uncounted and without a text.
 namespace {
 
 RecordNode::Members membersOfBooking(Booking& booking) {
