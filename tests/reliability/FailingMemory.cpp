@@ -41,6 +41,8 @@ void uncount(const void* block) {
 
 #ifdef FAILS_NEW_ALONE
 
+const bool FailingMemory::kFailsNewAlone = true;
+
 void* operator new(std::size_t size) {
     void* block = fails() ? nullptr : counted(std::malloc(size != 0 ? size : 1));
     if (block == nullptr)
@@ -60,6 +62,8 @@ void operator delete(void* block, std::size_t) noexcept { operator delete(block)
 void operator delete[](void* block, std::size_t) noexcept { operator delete(block); }
 
 #else
+
+const bool FailingMemory::kFailsNewAlone = false;
 
 extern "C" {
 

@@ -23,6 +23,9 @@ public:
         bool m_before;
     };
 
+    /// Under a sanitizer.
+    static const bool kFailsNewAlone;
+
     FailingMemory();
     ~FailingMemory();
     FailingMemory(const FailingMemory&) = delete;
