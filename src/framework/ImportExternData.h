@@ -56,18 +56,18 @@ public:
 
     /// These two reach a delimited-list module only; any other ignores them.
     void setDelimiterChar(char delimiter);
-    void assignColumns(const ColumnAssignment& assignment);
+    void assignColumns(const ColumnAssignment& assignment); ///< takes a copy
     /// The delimiter that a simulated import found; "," without such an import.
     char getBestDelimiter() const;
 
-    void setupDefaultColumnAssignmentVKD();
-    void setupDefaultColumnAssignmentZHOF();
+    void setupDefaultColumnAssignmentVKD();  ///< tax data: seven columns, ";"
+    void setupDefaultColumnAssignmentZHOF(); ///< the money program's fourteen columns, ";"
 
     /// Null or 0 while there is no module.
     const char* getFileExtension() const;
-    const char* getErrorMsg() const;
-    int getLastImportedDataSetsCount() const;
-    int getLastImportedSessionID() const;
+    const char* getErrorMsg() const; ///< German, Latin-1; an import that succeeds has one where values were refused
+    int getLastImportedDataSetsCount() const; ///< simulating: how many would have been
+    int getLastImportedSessionID() const;     ///< without a record no session was written: the next import gets it
     /// An empty table while there is no module. Valid until the next import.
     const ImportRecordSet& getLastSimulatedImport() const;
 

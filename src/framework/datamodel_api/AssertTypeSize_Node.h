@@ -7,6 +7,6 @@
 /// The host's check that the library was built against its `Node`.
 class DM_API AssertTypeSize_Node {
 public:
-    /// `size`: bytes of `Node` as the caller was built. Provided by the host.
+    /// `size`: bytes of `Node` as the caller was built. Provided by the host; called before `main`.
     static void assertTypeSize(unsigned long size);
 };

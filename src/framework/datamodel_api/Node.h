@@ -19,7 +19,7 @@ public:
     virtual void prepareUpdate() = 0;
     /// Number of rows of a table; 0 of any other node.
     virtual unsigned short getNodeCount() const = 0;
-    virtual DMSchemaContext* getSchemaContext() const = 0;
+    virtual DMSchemaContext* getSchemaContext() const = 0; ///< asked of the root when an import starts
     /// The value of a leaf; the empty value of any other node.
     virtual DataType getValue() const = 0;
     /// Assigns a leaf's value; false when the model refuses it. `where` is
