@@ -8,6 +8,7 @@
 #   build   what building, testing and trying the project needs (the default)
 #   check   what the further checks need: formatting, lint, a second compiler, coverage
 #   fuzz    what scripts/fuzz.sh needs
+#   package what scripts/try-packages.sh needs
 set -euo pipefail
 
 # The one list of packages. CMakeLists.txt files name the libraries they link.
@@ -16,6 +17,7 @@ declare -A packages=(
              libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev qtbase5-dev libicu-dev libssl-dev libmimalloc-dev libxml2-utils binutils locales
              python3 valgrind make"
     [check]="clang clang-format clang-tidy gcovr doxygen hledger ledger mandoc zsh fish shared-mime-info"
+    [package]="dpkg-dev file fakeroot lintian debootstrap"
     [fuzz]="clang libclang-rt-dev llvm"
 )
 
