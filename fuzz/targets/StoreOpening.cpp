@@ -181,14 +181,24 @@ void write(Store& store) {
     store.commit();
 }
 
+/// Of the store's tables; 0 where the file is too short to tell.
+unsigned versionOf(std::string_view bytes) {
+    constexpr std::size_t kAt = 60; // four bytes, the highest first
+    unsigned version = 0;
+    for (const char c : bytes.substr(std::min(kAt, bytes.size()), sizeof version))
+        version = version << 8U | static_cast<unsigned char>(c);
+    return version;
+}
+
 void open(const std::string& bytes, bool forWriting) {
     std::string unchanged = bytes;
     try {
         Store store =
             Store::open(file().path(), forWriting ? StoreAccess::readWrite : StoreAccess::readOnly, kNoPatience);
         ModelText::of(store.model());
-        unchanged = file().read(); // an old store was brought up to date
-        require(forWriting || unchanged == bytes, "reading changes nothing");
+        unchanged = file().read();
+        require(forWriting || unchanged == bytes || versionOf(unchanged) > versionOf(bytes),
+                "reading changes nothing, but to bring an old store up to date");
         store.throwIfUnreadable();
         if (!forWriting)
             return;

@@ -61,6 +61,16 @@ bool splitsLine(const RecordTable::Record& record, std::string_view line) {
 
 bool skipsLine(std::string_view line) { return line.find_first_not_of(" \t") == std::string_view::npos; }
 
+std::string_view strippedLine(std::string_view line) {
+    for (const char blank : {' ', '\t'}) {
+        const std::size_t first = line.find_first_not_of(blank);
+        if (first == std::string_view::npos)
+            return {};
+        line = line.substr(first, line.find_last_not_of(blank) + 1 - first);
+    }
+    return line;
+}
+
 bool readsAmount(std::string_view cell, const Money& amount) {
     if (hasCents(cell, amount))
         return true;

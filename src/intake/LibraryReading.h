@@ -20,6 +20,9 @@ extern const int kMaxColumns;
 bool splitsLine(const RecordTable::Record& record, std::string_view line);
 /// Whether it passes over the line.
 bool skipsLine(std::string_view line);
+/// What it makes of a line of a QIF file: blanks go from both ends, then tabs from what
+/// are the ends then, and nothing else.
+std::string_view strippedLine(std::string_view line);
 
 /// `amount` is what `cell` means, under whatever decimal mark the file has.
 bool readsAmount(std::string_view cell, const Money& amount);

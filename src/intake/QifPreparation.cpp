@@ -37,7 +37,7 @@ public:
     PreparedQif run() {
         adoptUnknownSections();
         for (const QifFile::Record& record : m_qif.records)
-            m_result.found += isWanted(m_qif.kindOf(record)) ? 1 : 0;
+            m_result.found += isWanted(record) ? 1 : 0;
         m_forms.emplace(m_qif, m_physical, m_options);
         m_result.reasons = m_forms->reasons();
         m_result.undecided = m_forms->undecided();
@@ -53,6 +53,12 @@ public:
 
 private:
     static bool isWanted(Kind kind) { return kind == Kind::booking || kind == Kind::category; }
+
+    /// The library keeps a category for its budget alone.
+    bool isWanted(const QifFile::Record& record) const {
+        const Kind kind = m_qif.kindOf(record);
+        return kind == Kind::category ? QifFields(m_physical, record).first('B') != nullptr : isWanted(kind);
+    }
 
     LineUse& use(int line) { return m_result.file.lines[static_cast<std::size_t>(line)]; }
     std::string_view content(int line) const { return TextTools::trim(m_lines.original(line)); }
@@ -94,7 +100,8 @@ private:
                 say(MessageId::qifUnknownSection, section.headerLine, {TextTools::toUtf8(section.header)});
             if (!isWanted(section.kind))
                 continue;
-            if (section.spelledRight)
+            if (section.spelledRight &&
+                LibraryReading::strippedLine(m_lines.original(section.headerLine)) == section.header)
                 m_lines.keep(section.headerLine);
             else
                 m_lines.write(section.headerLine, section.header);
@@ -102,7 +109,7 @@ private:
     }
 
     void handle(const QifFile::Record& record) {
-        if (!isWanted(m_qif.kindOf(record)))
+        if (!isWanted(record))
             return;
         for (int line = record.firstLine; line < record.firstLine + record.lineCount; ++line) {
             if (use(line) != LineUse::blank)
@@ -146,10 +153,18 @@ private:
         } else if (kind == Kind::category && field.letter == 'B') {
             line = amountLine(field);
         }
+        if (line.empty() && !beginsWithLetter(field))
+            line = field.letter + std::string(field.text);
         if (line.empty())
             m_lines.keep(field.line);
         else
             m_lines.write(field.line, std::move(line));
+    }
+
+    /// Whether the library sees the letter, too: it strips less from a line's ends.
+    bool beginsWithLetter(const QifField& field) const {
+        const std::string_view line = m_lines.original(field.line);
+        return line.front() == field.letter || LibraryReading::strippedLine(line).front() == field.letter;
     }
 
     /// The library takes the last of several lines of a letter; the record's own

@@ -44,6 +44,25 @@ TEST(QifFiles, ZeroBytesInFrontOfALetterAreBlanks) {
     EXPECT_THAT(file.messages(), ElementsAre("zero-bytes"));
 }
 
+/// The library strips blanks and tabs, once each: what else stands before a letter would be the letter.
+TEST(QifFiles, WhatOnlyWeTakeForBlankIsNotHandedOn) {
+    for (const char* blanks : {"\r", "\xA0", "\t ", " \r\t"}) {
+        for (const char* line : {"D14.02", "T1500", "PFirma", "!Type", "^\nD14"}) {
+            SCOPED_TRACE(line);
+            const FileReading file = qif(replaced(replaced(kText, "ü", "\xFC"), line, blanks + std::string(line)));
+            EXPECT_THAT(file.bookings(), kBookings);
+            EXPECT_THAT(file.messages(), IsEmpty());
+        }
+    }
+}
+
+TEST(QifFiles, CategoryWithoutABudgetIsNoRecord) {
+    const FileReading file = qif("!Type:Cat\nNMiete\nE\n^\nNStrom\nB-50,00\n^\n" + std::string(kText));
+    EXPECT_EQ(file.lines(), "HIIIRRRHRRRRRRRRRR");
+    EXPECT_EQ(file.intake().recordsFound, 3);
+    EXPECT_THAT(file.messages(), IsEmpty());
+}
+
 TEST(QifFiles, WhatTheLibraryReadsRightGoesThroughUntouched) {
     const std::string text = replaced(kText, "ü", "ue");
     EXPECT_TRUE(qif(text).untouched());
