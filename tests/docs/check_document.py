@@ -155,6 +155,7 @@ class Document:
         self.lines = path.read_text(encoding="utf-8").splitlines()
         self.errors = []
         self.rewritten = []  # (block, new lines), in order
+        self.days = {utc_day()}  # that were today; what stamps a store may be shown after midnight
 
     def complain(self, line, text):
         self.errors.append(f"{self.path.relative_to(self.project)}:{line}: {text}")
@@ -216,15 +217,14 @@ class Document:
     def check_console(self, block, folder, environment):
         try:
             steps = commands_of(block)
-            days = [utc_day()]
             printed = run(steps, folder, environment)
-            days.append(utc_day())
+            self.days.add(utc_day())
         except ValueError as error:
             self.complain(block.start, f"the block {error}")
             return
         line, lines, differs = block.start + 1, [], False
         for (command, expected), output in zip(steps, printed):
-            agrees = same_but_for_today(output, expected, days)
+            agrees = same_but_for_today(output, expected, self.days)
             lines += command + (expected if agrees else output)
             differs = differs or not agrees
             if not agrees and not self.write:
