@@ -28,7 +28,8 @@ fi
 step() { printf '\n== %s (%d s so far)\n' "$1" "$SECONDS"; }
 
 tree=$(mktemp -d)
-trap 'umount "$tree/proc" 2>/dev/null || true; rm -rf --one-file-system "$tree"' EXIT
+trap 'umount "$tree/proc" "$tree/dev/pts" 2>/dev/null || true; rm -rf --one-file-system "$tree"' EXIT
+chmod 755 "$tree" # apt downloads as a user of its own
 
 packages=${1:-}
 if [[ -z $packages ]]; then
@@ -54,6 +55,7 @@ rm -f "$tree.log"
 cp /etc/resolv.conf "$tree/etc/"
 apt-config dump | grep -E '^Acquire::https?::Proxy' >"$tree/etc/apt/apt.conf.d/90proxy" || true
 mount -t proc proc "$tree/proc"
+mount -t devpts -o newinstance,ptmxmode=0666 devpts "$tree/dev/pts"
 mkdir "$tree/packages" "$tree/work"
 cp "$packages"/*.deb "$tree/packages"
 cp data/umsaetze.csv data/girokonto.csv tests/consumer/find_package/CMakeLists.txt "$tree/work"
