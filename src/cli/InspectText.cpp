@@ -54,7 +54,7 @@ std::string columnsText(const IntakeResult& result) {
     for (const auto& [field, inputs] : result.columns) {
         text += (text.empty() ? "" : ", ") + field + " = ";
         for (std::size_t i = 0; i < inputs.size(); ++i)
-            text += (i == 0 ? "" : "+") + std::to_string(inputs[i]);
+            text.append(i == 0 ? "" : "+").append(std::to_string(inputs[i]));
     }
     return text;
 }

@@ -37,7 +37,7 @@ ExitStatus run(const Options& options, Console& console) {
     const std::size_t limit = rowLimit(options.limit);
     const FileReading reading(options.operands.front(), ReadingOptions::from(options));
     std::vector<Message> messages = reading.messages();
-    LibraryRun run;
+    static auto& run = *new LibraryRun; // the table is left to the system, as the command ends with it
     RunOutcome outcome;
     if (reading.mayBeAsked())
         outcome = reading.simulate(run);
