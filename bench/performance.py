@@ -161,7 +161,7 @@ def machine():
     cpu = re.search(r"model name\s*: (.*)", pathlib.Path("/proc/cpuinfo").read_text())
     memory = int(re.search(r"MemTotal:\s*(\d+)", pathlib.Path("/proc/meminfo").read_text())[1]) // 2**20
     system = re.search(r'PRETTY_NAME="(.*)"', pathlib.Path("/etc/os-release").read_text())[1]
-    return [f"{cpu[1] if cpu else platform.machine()}, {os.cpu_count()} cores, {memory} GiB; {system}, Linux {platform.release()};",
+    return [f"{cpu[1] if cpu else platform.machine()}, {os.cpu_count()} cores, {memory} GiB; {system}, Linux {platform.release().split("-")[0]};",
             f"{output('g++', '--version').splitlines()[0]}; SQLite {output('pkg-config', '--modversion', 'sqlite3').strip()}, "
             f"Qt {output('pkg-config', '--modversion', 'Qt5Core').strip()}.", ""]
 
@@ -213,7 +213,8 @@ def growth(bench, timed):
 def stages(build):
     result = json.loads(output(str(build / "bench" / "import_bench"), "--benchmark_format=json", "--benchmark_min_time=0.2"))
     rows = []
-    for case in result["benchmarks"]:
+    largest = {case["name"].rpartition("/")[0]: case for case in result["benchmarks"]}  # sizes ascend
+    for case in largest.values():
         rate = case.get("items_per_second")
         bytes_rate = case.get("bytes_per_second")
         rows.append([f"`{case['name']}`", f"{case['cpu_time']:,.0f} {case['time_unit']}", f"{1e9 / rate:,.0f} ns" if rate else "",
