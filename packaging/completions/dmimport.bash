@@ -56,7 +56,7 @@ _dmimport() {
     if [[ -n $only_files || $files == *" $previous "* ]]; then
         for_files=yes
     elif [[ $previous == -* && -n ${values[$previous]:-} ]]; then
-        read -ra candidates <<<"${values[$previous]}"
+        read -rd '' -a candidates <<<"${values[$previous]}"
     elif [[ $previous == --profile ]]; then
         for word in "${XDG_CONFIG_HOME:-$HOME/.config}"/dmimport/profiles/*.profil; do
             word=${word##*/}
@@ -65,12 +65,12 @@ _dmimport() {
     elif [[ $others == *" $previous "* ]]; then
         return
     elif [[ $current == -* ]]; then
-        read -ra candidates <<<"$for_all ${options[${command:-formats}]}"
+        read -rd '' -a candidates <<<"$for_all ${options[${command:-formats}]}"
         [[ -n $command ]] || candidates+=(--version)
     elif [[ -z $command ]]; then
         candidates=("${!options[@]}")
     elif [[ -n ${values[$command]:-} ]]; then
-        read -ra candidates <<<"${values[$command]}"
+        read -rd '' -a candidates <<<"${values[$command]}"
     elif [[ $command == @(inspect|preview|import|accounts|bookings) ]]; then
         for_files=yes
     fi

@@ -34,7 +34,7 @@ offered() { "offered_$shell" "$@" | sed '/^$/d' | LC_ALL=C sort -u; }
 same commands "$(program_commands "$dmimport" | LC_ALL=C sort)" "$(offered '' | grep -v '^-')"
 
 options=$(for command in $(program_commands "$dmimport"); do
-    offered "$command" "--" | grep -e '^--' | grep -vxE -e '--(json|quiet|color|help)' | sed "s/^/$command /"
+    offered "$command" "--" | sed -nE "/^--(json|quiet|color|help)$/d; s/^--/$command &/p"
 done | LC_ALL=C sort)
 same options "$(program_options "$dmimport")" "$options"
 

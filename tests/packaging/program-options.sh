@@ -13,7 +13,7 @@ program_options() { # DMIMPORT
     local command
     for command in $(program_commands "$1"); do
         "$1" "$command" --help | grep -oE '^  (-h,)?--[a-z-]+' | sed -E 's/^  (-h,)?//' |
-            grep -vxE -e '--(json|quiet|color|help)' | sed "s/^/$command /"
+            sed -E "/^--(json|quiet|color|help)$/d; s/^/$command /"
     done | LC_ALL=C sort
 }
 
