@@ -33,7 +33,7 @@ struct BlockStringBuf::Lengths {
 
     int count;
     Length size = 0; // of lengths and texts together
-    Length of[UnknownRowInfo::kColumns];
+    Length of[UnknownRowInfo::kColumns] = {};
 };
 
 BlockStringBuf::BlockStringBuf(const UnknownRowInfo& row, int count) : BlockStringBuf(row, Lengths(row, count)) {}

@@ -14,9 +14,9 @@ namespace {
 /// Finds where the fields of one line end.
 class FieldEnds {
 public:
-    FieldEnds(char* line, char delimiter) : m_end(line + std::strlen(line)), m_delimiter(delimiter) {
-        m_hasQuotes = std::memchr(line, '"', static_cast<std::size_t>(m_end - line)) != nullptr;
-    }
+    FieldEnds(char* line, char delimiter)
+        : m_end(line + std::strlen(line)), m_delimiter(delimiter),
+          m_hasQuotes(std::memchr(line, '"', static_cast<std::size_t>(m_end - line)) != nullptr) {}
 
     /// The delimiter or the zero byte that ends `field`; a delimiter inside
     /// quotes does not. `firstQuote` is set where there is one.
