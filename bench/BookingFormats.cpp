@@ -24,21 +24,38 @@ std::string english(std::string amount) {
     return amount;
 }
 
-/// UTF-8, with the characters of markup as references.
-std::string xmlText(const std::string& latin1) {
+std::string utf8(const std::string& latin1) {
     std::string out;
     for (const char c : latin1) {
         const auto code = static_cast<unsigned char>(c);
-        if (c == '&')
-            out += "&amp;";
-        else if (c == '<')
-            out += "&lt;";
-        else if (code < 0x80)
+        if (code < 0x80)
             out += c;
         else
             out.append({static_cast<char>(0xC0 | (code >> 6)), static_cast<char>(0x80 | (code & 0x3F))});
     }
     return out;
+}
+
+/// UTF-8, with the characters of markup as references.
+std::string xmlText(const std::string& latin1) {
+    std::string out;
+    for (const char c : latin1) {
+        if (c == '&')
+            out += "&amp;";
+        else if (c == '<')
+            out += "&lt;";
+        else
+            out += c;
+    }
+    return utf8(out);
+}
+
+/// In quotes whatever it holds.
+std::string quoted(const std::string& text) {
+    std::string out = "\"";
+    for (const char c : text)
+        out.append(c == '"' ? 2 : 1, c);
+    return out + '"';
 }
 
 std::string element(std::string_view tag, const std::string& text) {
@@ -56,13 +73,16 @@ std::string document(const std::string& inside) {
 
 namespace BookingFormats {
 
+std::string qifDate(std::uint32_t number) { return monthFirst(Bookings::date(number)); }
+
+std::string qifAmount(std::uint32_t number) { return english(Bookings::amount(number)); }
+
 std::string qif(std::uint32_t count) {
     std::string file = "!Type:Bank\n";
     for (std::uint32_t number = 0; number < count; ++number) {
         const Bookings::Parts parts = Bookings::parts(number);
-        file += 'D' + monthFirst(Bookings::date(number)) + "\nT" + english(Bookings::amount(number)) + "\nN" +
-                parts.posting + "\nP" + parts.payee + "\nM" + parts.purpose + "\nL" + parts.group + ':' + parts.kind +
-                "\n^\n";
+        file += 'D' + qifDate(number) + "\nT" + qifAmount(number) + "\nN" + parts.posting + "\nP" + parts.payee +
+                "\nM" + parts.purpose + "\nL" + parts.group + ':' + parts.kind + "\n^\n";
     }
     return file;
 }
@@ -83,6 +103,21 @@ std::string starMoney(std::uint32_t count) {
             file += '|' + parts.purpose.substr(at, kPurposeLength);
         }
         file += '|' + parts.posting + '|' + parts.group + '|' + parts.kind + '\n';
+    }
+    return file;
+}
+
+std::string statement(std::uint32_t count) {
+    std::string file = "\xEF\xBB\xBF\"Kontoauszug\";\"Girokonto " + accountNumber(1) +
+                       "\"\r\n\"Zeitraum\";\"01.01.2015 - 31.12.2024\"\r\n\r\n"
+                       "Buchungstag;Wertstellung;Buchungstext;Empfänger;Verwendungszweck;Kategorie;Betrag;Währung\r\n";
+    for (std::uint32_t number = 0; number < count; ++number) {
+        const Bookings::Parts parts = Bookings::parts(number);
+        const std::string date = Bookings::date(number);
+        file += date + ';' + date;
+        for (const std::string& text : {parts.posting, parts.payee, parts.purpose, parts.group})
+            file += ';' + utf8(quoted(text));
+        file += ';' + Bookings::amount(number) + ";EUR\r\n";
     }
     return file;
 }

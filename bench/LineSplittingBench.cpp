@@ -10,6 +10,8 @@
 #include "Bookings.h"
 #include "csv/BlockStringBuf.h"
 #include "csv/ImportCSVBase.h"
+#include "Rates.h"
+#include "Sizes.h"
 
 namespace {
 
@@ -25,45 +27,43 @@ public:
     bool importRowIntoTable(const UnknownRowInfo& /*row*/, int /*count*/, int /*index*/) override { return true; }
 };
 
-constexpr std::uint32_t kLines = 1000;
-
 /// The lines one after the other, each zero-terminated, ready to be copied and split.
-std::string zeroTerminatedLines() {
+std::string zeroTerminatedLines(std::uint32_t count) {
     std::string lines;
-    for (std::uint32_t number = 0; number < kLines; ++number)
+    for (std::uint32_t number = 0; number < count; ++number)
         lines.append(Bookings::line(number)).push_back('\0');
     return lines;
 }
 
 template <typename Use>
 void splitAll(benchmark::State& state, Use use) {
-    const std::string lines = zeroTerminatedLines();
+    const auto count = static_cast<std::uint32_t>(state.range(0));
+    const std::string lines = zeroTerminatedLines(count);
     std::string work;
     Splitter splitter;
     for ([[maybe_unused]] auto iteration : state) {
         work = lines; // splitting is in place
         char* line = work.data();
-        for (std::uint32_t number = 0; number < kLines; ++number) {
+        for (std::uint32_t number = 0; number < count; ++number) {
             const std::size_t length = std::strlen(line);
             use(splitter, splitter.split(line));
             line += length + 1;
         }
     }
-    state.SetItemsProcessed(state.iterations() * std::int64_t{kLines});
-    state.SetBytesProcessed(state.iterations() * static_cast<std::int64_t>(lines.size()));
+    Rates::set(state, count, lines.size());
 }
 
 void splitLines(benchmark::State& state) {
-    splitAll(state, [](const Splitter&, int count) { benchmark::DoNotOptimize(count); });
+    splitAll(state, [](const Splitter&, int fields) { benchmark::DoNotOptimize(fields); });
 }
-BENCHMARK(splitLines);
+BENCHMARK(splitLines)->Name("splitting/fields")->Apply(Sizes::two);
 
 void splitAndBufferLines(benchmark::State& state) {
-    splitAll(state, [](const Splitter& splitter, int count) {
-        const BlockStringBuf row(splitter.row(), count);
+    splitAll(state, [](const Splitter& splitter, int fields) {
+        const BlockStringBuf row(splitter.row(), fields);
         benchmark::DoNotOptimize(&row);
     });
 }
-BENCHMARK(splitAndBufferLines);
+BENCHMARK(splitAndBufferLines)->Name("splitting/buffered")->Apply(Sizes::two);
 
 } // namespace

@@ -2,57 +2,37 @@
 // SPDX-License-Identifier: MIT
 #include <cstdint>
 #include <string>
-#include <vector>
 
 #include <benchmark/benchmark.h>
 
+#include "BookingFormats.h"
 #include "Bookings.h"
 #include "csv/ImportModuleCSV.h"
 #include "dmwrite/SmartDate.h"
+#include "Sizes.h"
+#include "TextReading.h"
 
 namespace {
 
-constexpr std::uint32_t kValues = 1000;
+using MakeText = std::string (*)(std::uint32_t number);
 
-template <typename Make>
-std::vector<std::string> texts(Make make) {
-    std::vector<std::string> made;
-    for (std::uint32_t number = 0; number < kValues; ++number)
-        made.push_back(make(number));
-    return made;
-}
-
-template <typename Read>
-void readAll(benchmark::State& state, const std::vector<std::string>& texts, Read read) {
-    for ([[maybe_unused]] auto iteration : state) {
-        for (const std::string& text : texts)
-            benchmark::DoNotOptimize(read(text.c_str()));
-    }
-    state.SetItemsProcessed(state.iterations() * std::int64_t{kValues});
-}
-
-void parseDates(benchmark::State& state) {
+void parseDates(benchmark::State& state, MakeText make) {
     SmartDate::sm_order = 0;
-    readAll(state, texts(Bookings::date), [](const char* text) {
+    TextReading::time(state, make, [](const char* text) {
         SmartDate date;
         date.parse(text);
         return date.getDate();
     });
     SmartDate::sm_order = 0;
 }
-BENCHMARK(parseDates);
+BENCHMARK_CAPTURE(parseDates, german, Bookings::date)->Name("dates/day_first")->Apply(Sizes::two);
+BENCHMARK_CAPTURE(parseDates, english, BookingFormats::qifDate)->Name("dates/month_first")->Apply(Sizes::two);
 
-void readAmounts(benchmark::State& state) {
+void readAmounts(benchmark::State& state, MakeText make) {
     const ImportModuleCSV module;
-    readAll(state, texts(Bookings::amount), [&](const char* text) { return module.scanCurrency(text); });
+    TextReading::time(state, make, [&](const char* text) { return module.scanCurrency(text); });
 }
-BENCHMARK(readAmounts);
-
-void convertTexts(benchmark::State& state) {
-    const ImportModuleCSV module;
-    readAll(state, texts(Bookings::line),
-            [&](const char* text) { return module.convertStringToDataType("Verwendungszweck", text).kind(); });
-}
-BENCHMARK(convertTexts);
+BENCHMARK_CAPTURE(readAmounts, german, Bookings::amount)->Name("amounts/german")->Apply(Sizes::two);
+BENCHMARK_CAPTURE(readAmounts, english, BookingFormats::qifAmount)->Name("amounts/english")->Apply(Sizes::two);
 
 } // namespace
