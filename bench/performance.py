@@ -213,6 +213,9 @@ def growth(bench, timed):
 def stages(build):
     result = json.loads(output(str(build / "bench" / "import_bench"), "--benchmark_format=json", "--benchmark_min_time=0.2"))
     rows = []
+    failed = [case["name"] for case in result["benchmarks"] if case.get("error_occurred")]
+    if failed:
+        sys.exit(f"cases that failed: {', '.join(failed)}")
     largest = {case["name"].rpartition("/")[0]: case for case in result["benchmarks"]}  # sizes ascend
     for case in largest.values():
         rate = case.get("items_per_second")
