@@ -114,7 +114,7 @@ std::string statement(std::uint32_t count) {
     for (std::uint32_t number = 0; number < count; ++number) {
         const Bookings::Parts parts = Bookings::parts(number);
         const std::string date = Bookings::date(number);
-        file += date + ';' + date;
+        file.append(date).append(";").append(date);
         for (const std::string& text : {parts.posting, parts.payee, parts.purpose, parts.group})
             file += ';' + utf8(quoted(text));
         file += ';' + Bookings::amount(number) + ";EUR\r\n";
