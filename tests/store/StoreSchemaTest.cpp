@@ -105,7 +105,7 @@ TEST_F(StoreSchema, DocumentNamesEveryColumnUnderItsTable) {
 }
 
 TEST_F(StoreSchema, QuestionsOfTheDocumentAreAnswered) {
-    const std::string questions = between(StoreFolder::bytes(STORE_DOCUMENT), "```sql\n", "```");
+    const std::string questions = between(StoreFolder::bytes(STORE_DOCUMENT), "```sql file=fragen.sql\n", "```");
     ASSERT_FALSE(questions.empty());
     EXPECT_NO_THROW(Sql(m_file).run(questions));
 }
