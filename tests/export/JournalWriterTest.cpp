@@ -101,12 +101,12 @@ TEST(JournalWriter, LinesAreNoLongerThanLedgerReads) {
     EXPECT_THAT(written.text, HasSubstr("\xE2\x82\xAC  -1.00 EUR\n")) << "no character is cut in two";
 }
 
-/// What other programs make of a journal, where they are installed.
+/// What other programs make of a journal. scripts/install-packages.sh brings them.
 class JournalProgramsTest : public ::testing::TestWithParam<const char*> {
 protected:
     void SetUp() override {
         if (run(std::string("command -v ") + program() + " >/dev/null && echo yes") != "yes\n")
-            GTEST_SKIP() << program() << " is not installed";
+            FAIL() << program() << " is not installed; scripts/install-packages.sh brings it";
     }
 
     static std::string program() { return GetParam(); }

@@ -68,10 +68,12 @@ const bool FailingMemory::kFailsNewAlone = false;
 extern "C" {
 
 // The C library's own, under the names by which it keeps them for those who replace malloc.
-void* __libc_malloc(std::size_t size);                    // NOLINT
-void* __libc_calloc(std::size_t count, std::size_t size); // NOLINT
-void* __libc_realloc(void* block, std::size_t size);      // NOLINT
-void __libc_free(void* block);                            // NOLINT
+// NOLINTBEGIN(bugprone-reserved-identifier): the names are the C library's
+void* __libc_malloc(std::size_t size);
+void* __libc_calloc(std::size_t count, std::size_t size);
+void* __libc_realloc(void* block, std::size_t size);
+void __libc_free(void* block);
+// NOLINTEND(bugprone-reserved-identifier)
 
 __attribute__((visibility("default"))) void* malloc(std::size_t size) {
     if (fails()) {

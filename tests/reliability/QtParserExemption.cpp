@@ -45,5 +45,7 @@ bool parse(QXmlSimpleReader* reader, const QXmlInputSource& source) {
 
 // Where an allocation fails in the library while Qt reads a document, Qt's input source does not give back its block.
 // A sanitizer sees no further than the function that allocates.
-extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions(); // NOLINT: its name
+// NOLINTBEGIN(bugprone-reserved-identifier): the sanitizer looks for this name
+extern "C" __attribute__((visibility("default"))) const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions() { return "leak:QArrayData::allocate\n"; }
+// NOLINTEND(bugprone-reserved-identifier)
