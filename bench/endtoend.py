@@ -78,6 +78,18 @@ def arguments():
     return given
 
 
+def measured(command):
+    """One run of a program, which must succeed."""
+    start = time.perf_counter()
+    process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
+    _, status, usage = os.wait4(process.pid, 0)
+    wall = time.perf_counter() - start
+    process.returncode = os.waitstatus_to_exitcode(status)
+    if process.returncode != 0:
+        sys.exit(f"exit status {process.returncode}: {shlex.join(map(str, command[:20]))}")
+    return Run(wall, usage.ru_utime + usage.ru_stime, usage.ru_maxrss / 1024)
+
+
 class Bench:
     """The files in one folder, and runs that read them."""
 
@@ -133,14 +145,7 @@ class Bench:
             leftover.unlink()
         if with_accounts:
             shutil.copyfile(self.known_accounts, self.store)
-        start = time.perf_counter()
-        process = subprocess.Popen(command, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
-        _, status, usage = os.wait4(process.pid, 0)
-        wall = time.perf_counter() - start
-        process.returncode = os.waitstatus_to_exitcode(status)
-        if process.returncode != 0:
-            sys.exit(f"exit status {process.returncode}: {shlex.join(command[:20])}")
-        return Run(wall, usage.ru_utime + usage.ru_stime, usage.ru_maxrss / 1024)
+        return measured(command)
 
 
 def print_row(name, rows, runs, bound_runs=()):

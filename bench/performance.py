@@ -29,8 +29,9 @@ import statistics
 import subprocess
 import sys
 import tempfile
-import time
 from collections import namedtuple
+
+from endtoend import Run, measured
 
 DOCUMENT = pathlib.Path(__file__).parents[1] / "docs" / "performance.md"
 BEGIN, END = "<!-- measured: begin -->\n", "<!-- measured: end -->\n"
@@ -40,7 +41,6 @@ COLUMNS = "0=Datum,1=Empfaenger,2=Kategorie,3=Unterkategorie,4=Verwendungszweck,
 VERBATIM = ["--verbatim", "--quiet"]
 CSV = ["--delimiter", ";", "--header", "--columns", COLUMNS]
 
-Run = namedtuple("Run", "wall cpu peak")
 # ours: arguments of dmimport. bound: command lines whose times add up, or ours again. store: what lies there before.
 Work = namedtuple("Work", "name ours bound goal store bound_store", defaults=(None, None))
 
@@ -115,14 +115,7 @@ class Bench:
 
     def run(self, words, store=None):
         self.prepare(store)
-        start = time.perf_counter()
-        process = subprocess.Popen(words, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL)
-        _, status, usage = os.wait4(process.pid, 0)
-        wall = time.perf_counter() - start
-        process.returncode = os.waitstatus_to_exitcode(status)
-        if process.returncode != 0:
-            sys.exit(f"exit status {process.returncode}: {' '.join(words)[:200]}")
-        return Run(wall, usage.ru_utime + usage.ru_stime, usage.ru_maxrss / 1024)
+        return measured(words)
 
     def bound(self, work):
         if work.bound[0] == "ours":
@@ -161,7 +154,7 @@ def machine():
     cpu = re.search(r"model name\s*: (.*)", pathlib.Path("/proc/cpuinfo").read_text())
     memory = int(re.search(r"MemTotal:\s*(\d+)", pathlib.Path("/proc/meminfo").read_text())[1]) // 2**20
     system = re.search(r'PRETTY_NAME="(.*)"', pathlib.Path("/etc/os-release").read_text())[1]
-    return [f"{cpu[1] if cpu else platform.machine()}, {os.cpu_count()} cores, {memory} GiB; {system}, Linux {platform.release().split("-")[0]};",
+    return [f"{cpu[1] if cpu else platform.machine()}, {os.cpu_count()} cores, {memory} GiB; {system}, Linux {platform.release().split('-')[0]};",
             f"{output('g++', '--version').splitlines()[0]}; SQLite {output('pkg-config', '--modversion', 'sqlite3').strip()}, "
             f"Qt {output('pkg-config', '--modversion', 'Qt5Core').strip()}.", ""]
 
