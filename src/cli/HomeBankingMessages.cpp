@@ -114,8 +114,10 @@ Message ofFailure(const HomeBankingDocument& document, const XmlList& list, cons
         return Message::of(known->problem, {shortened(list.attribute(kNumber)), shortened(list.attribute(kBankCode))});
     if (errorText.empty() && !list.isOpaque() && !list.isFound())
         return Message::of(Problem::listMissing, {document.listTag});
-    if (errorText.empty() && list.isFound() && lacksNumber(list))
+    if (errorText.empty() && list.isFound() && !document.isAccountList && lacksNumber(list))
         return Message::of(Problem::accountNumberMissing, {});
+    if (errorText.empty() && list.isFound()) // nothing is left but a failure inside, and those have no text
+        return Message::of(Problem::unexpected, {"Der Arbeitsspeicher reicht nicht"});
     return ofText(errorText);
 }
 
