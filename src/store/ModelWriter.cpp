@@ -23,23 +23,19 @@ void ModelWriter::writeTable(StoredTable& stored, TableNode& table, std::int64_t
     for (const std::int64_t id : table.removedStoreIds())
         removeRow(stored, id);
 
-    const bool hasTables = !stored.layout().nested().empty();
     const unsigned count = table.getNodeCount();
-    std::int64_t firstNewId = 0;
-    for (unsigned number = 1; number <= count; ++number) {
+    const unsigned firstNew = table.storedRowCount() + 1;
+    const std::int64_t firstNewId = firstNew <= count ? stored.insert(table, firstNew, owner) : 0;
+    const bool hasTables = !stored.layout().nested().empty();
+    for (unsigned number = 1; number < (hasTables ? count + 1 : firstNew); ++number) {
         RecordNode* record = table.rowIfLoaded(number);
         if (record == nullptr)
             continue;
-        std::int64_t id = record->storeId();
-        if (number > table.storedRowCount()) {
-            id = stored.insert(*record, owner);
-            if (firstNewId == 0)
-                firstNewId = id;
-        } else if (record->isChanged()) {
-            stored.update(*record, id);
-        }
+        const bool isNew = number >= firstNew;
+        if (!isNew && record->isChanged())
+            stored.update(*record, record->storeId());
         if (hasTables)
-            writeTables(stored, *record, id);
+            writeTables(stored, *record, isNew ? firstNewId + (number - firstNew) : record->storeId());
     }
     if (firstNewId != 0 || !table.removedStoreIds().empty())
         m_tree->counts().set(stored.layout(), owner, count);

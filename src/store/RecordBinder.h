@@ -3,7 +3,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "datamodel/RecordNode.h"
@@ -18,7 +17,5 @@ public:
     void bind(SqliteStatement& statement, int firstParameter, const RecordNode& record);
 
 private:
-    std::string_view utf8(std::size_t field, std::string_view hostText);
-
     std::vector<std::string> m_converted; // by field
 };

@@ -15,12 +15,17 @@ SqliteStatement& StoredTable::prepared(std::optional<SqliteStatement>& statement
     return *statement;
 }
 
-std::int64_t StoredTable::insert(const RecordNode& record, std::int64_t owner) {
-    SqliteStatement& statement = prepared(m_insert, &TableLayout::insertSql);
-    bindOwner(statement, owner);
-    m_binder.bind(statement, m_layout->hasOwner() ? 2 : 1, record);
-    statement.run();
-    return sqlite3_last_insert_rowid(m_connection->handle());
+std::int64_t StoredTable::insert(const TableNode& table, unsigned first, std::int64_t owner) {
+    if (!m_insert) {
+        m_newRows.emplace(*m_connection, *m_layout);
+        m_insert.emplace(*m_connection, m_layout->insertSql(m_newRows->name()));
+    }
+    m_newRows->show(table, first, owner);
+    m_insert->run();
+    const int count = static_cast<int>(table.getNodeCount() - first + 1);
+    if (sqlite3_changes(m_connection->handle()) != count)
+        m_connection->failDamaged("Tabelle " + m_layout->name() + " nimmt nicht alle Zeilen an");
+    return sqlite3_last_insert_rowid(m_connection->handle()) - count + 1;
 }
 
 void StoredTable::update(const RecordNode& record, std::int64_t id) {

@@ -9,6 +9,8 @@
 #include <vector>
 
 #include "datamodel/RecordNode.h"
+#include "datamodel/TableNode.h"
+#include "store/NewRows.h"
 #include "store/RecordBinder.h"
 #include "store/RowCursor.h"
 #include "store/SqliteConnection.h"
@@ -26,8 +28,9 @@ public:
     StoredTable& nested(std::size_t index) { return *m_nested[index]; }
     RowCursor& cursor() { return m_cursor; }
 
-    /// Returns the new row's id, which is one more than the last one's.
-    std::int64_t insert(const RecordNode& record, std::int64_t owner);
+    /// Enters the rows from number `first` on, of which there is at least one, and returns the id
+    /// of the first; those of the others follow on it.
+    std::int64_t insert(const TableNode& table, unsigned first, std::int64_t owner);
     void update(const RecordNode& record, std::int64_t id);
     void remove(std::int64_t id);
 
@@ -49,7 +52,8 @@ private:
     const TableLayout* m_layout;
     RowCursor m_cursor;
     RecordBinder m_binder;
-    std::optional<SqliteStatement> m_insert;
+    std::optional<NewRows> m_newRows;
+    std::optional<SqliteStatement> m_insert; // reads from it
     std::optional<SqliteStatement> m_update;
     std::optional<SqliteStatement> m_remove;
     std::vector<std::unique_ptr<StoredTable>> m_nested;

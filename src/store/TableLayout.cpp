@@ -47,18 +47,15 @@ TableLayout::TableLayout(const RecordSpec& spec, std::string_view name, bool has
         m_nested.push_back(TableLayout(table.row, nameInFile(name, table.name), name != kRootTable));
 }
 
-std::string TableLayout::insertSql() const {
-    std::string columns;
-    std::string values;
-    const auto add = [&](std::string_view column) {
-        columns.append(columns.empty() ? "" : ", ").append(column);
-        values.append(values.empty() ? "?" : ", ?");
-    };
-    if (m_hasOwner)
-        add(kOwnerColumn);
+std::string TableLayout::columns() const {
+    std::string columns(m_hasOwner ? kOwnerColumn : "");
     for (const FieldSpec& field : m_spec->fields())
-        add(field.name);
-    return "INSERT INTO " + m_name + " (" + columns + ") VALUES (" + values + ")";
+        columns.append(columns.empty() ? "" : ", ").append(field.name);
+    return columns;
+}
+
+std::string TableLayout::insertSql(std::string_view source) const {
+    return "INSERT INTO " + m_name + " (" + columns() + ") SELECT * FROM " + std::string(source);
 }
 
 std::string TableLayout::updateSql() const {

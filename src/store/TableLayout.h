@@ -26,8 +26,10 @@ public:
     /// In the order of the schema's tables.
     const std::vector<TableLayout>& nested() const { return m_nested; }
 
-    /// Parameters: the owner if there is one, then the fields in the schema's order.
-    std::string insertSql() const;
+    /// The owner if there is one, then the fields in the schema's order, as a list.
+    std::string columns() const;
+    /// Enters all rows of the table `source`, which has those columns.
+    std::string insertSql(std::string_view source) const;
     /// Parameters: the fields, then the id.
     std::string updateSql() const;
     /// Parameter: the id.
