@@ -20,6 +20,13 @@ public_headers(ImportModule ${import_module_headers})
 public_headers(Dm ${import_module_model_headers})
 target_include_directories(DmBasicServices INTERFACE "$<INSTALL_INTERFACE:${import_module_includedir}>")
 
+# g++ describes a class with virtual operations only where its table is made, which may be in no library at all. The
+# record of what hosts are built against (scripts/abi.sh) needs each class wherever it is used.
+foreach(library IN LISTS import_module_libraries)
+    target_compile_options(${library} PRIVATE
+        "$<BUILD_INTERFACE:$<$<AND:$<CXX_COMPILER_ID:GNU>,$<CONFIG:RelWithDebInfo>>:-femit-class-debug-always>>")
+endforeach()
+
 # The libraries lie together, and the program finds them from where it is, wherever the whole is moved to.
 # Distributions want no such path: -DCMAKE_SKIP_INSTALL_RPATH=ON.
 file(RELATIVE_PATH from_bin_to_lib "${CMAKE_INSTALL_FULL_BINDIR}" "${CMAKE_INSTALL_FULL_LIBDIR}")

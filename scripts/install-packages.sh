@@ -15,7 +15,7 @@ set -euo pipefail
 declare -A packages=(
     [build]="g++ cmake ninja-build pkg-config libgtest-dev libgmock-dev libbenchmark-dev
              libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev qtbase5-dev libicu-dev libssl-dev libmimalloc-dev libxml2-utils binutils locales
-             python3 valgrind make hledger ledger"
+             python3 valgrind make hledger ledger abigail-tools"
     [check]="clang clang-format clang-tidy gcovr doxygen mandoc zsh fish shared-mime-info"
     [package]="dpkg-dev file fakeroot lintian debootstrap"
     [fuzz]="clang libclang-rt-dev llvm"
