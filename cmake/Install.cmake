@@ -70,7 +70,13 @@ pkg_config_file(ImportModule "${PROJECT_DESCRIPTION}" "" "${import_module_pc_req
 pkg_config_file(Dm "In-memory data model that ImportModule can write to" "DmBasicServices" "")
 pkg_config_file(DmBasicServices "Dates, texts, paths and bounds below the data model" "" "")
 
-install(DIRECTORY docs examples DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT Development PATTERN docs/man EXCLUDE)
+# The pages and the projects; what builds them in here stays here.
+install(DIRECTORY docs examples DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT Development
+    PATTERN docs/man EXCLUDE
+    PATTERN docs/CMakeLists.txt EXCLUDE
+    PATTERN docs/Doxyfile.in EXCLUDE
+    PATTERN docs/api/groups.dox EXCLUDE
+    PATTERN examples/CMakeLists.txt EXCLUDE)
 
 if(IMPORT_MODULE_BUILD_PROGRAM)
     set_target_properties(dmimport PROPERTIES INSTALL_RPATH "$ORIGIN/${from_bin_to_lib}")

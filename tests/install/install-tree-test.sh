@@ -36,6 +36,16 @@ done
 for part in Config ConfigVersion Targets; do
     expect "lib*/**/cmake/ImportModule/ImportModule$part.cmake"
 done
+for part in guide.md install.md de/anleitung.md formats/qif.md; do
+    expect "share/doc/*/docs/$part"
+done
+expect 'share/doc/*/examples/smallest-host/CMakeLists.txt'
+# What builds documents and examples in the project's own tree, and manual pages beside their own place.
+extra=$(find "$tree"/share/doc -path '*/docs/CMakeLists.txt' -o -path '*/examples/CMakeLists.txt' -o -name '*.in' -o -name '*.dox' -o -name '*.[1-9]')
+if [[ -n $extra ]]; then
+    printf 'installed, but of no use there: %s\n' "$extra"
+    ((++failures))
+fi
 if grep -rIl --exclude='*.a' -e "$build" -e "$tree.first" "$tree"; then
     echo "the files above name the folder of the build or of the installation"
     ((++failures))
