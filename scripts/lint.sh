@@ -4,7 +4,7 @@
 #
 # Checks the layout of every C++ file (.clang-format) and lints the sources (.clang-tidy).
 #
-# usage: scripts/lint.sh [FILE...]    lint these sources only; by default everything under src and bench
+# usage: scripts/lint.sh [FILE...]    lint these sources only; by default everything under src, bench and examples
 #        scripts/lint.sh --format     the layout alone
 #        scripts/lint.sh --recent     the layout, and lint of the sixty sources that were changed last
 set -euo pipefail
@@ -26,7 +26,7 @@ fi
 # itself: in a large unit the analyzer takes sources for headers and looks at no path through them.
 cmake --preset clang >/dev/null
 if [[ ${1:-} == --recent ]]; then
-    mapfile -t changed < <(git log --name-only --pretty=format: -- 'src/*.cpp' 'bench/*.cpp' | awk 'NF && !seen[$0]++')
+    mapfile -t changed < <(git log --name-only --pretty=format: -- 'src/*.cpp' 'bench/*.cpp' 'examples/*.cpp' | awk 'NF && !seen[$0]++')
     recent=()
     for source in "${changed[@]}"; do
         [[ ! -f $source ]] || ((${#recent[@]} == 60)) || recent+=("$source")
@@ -35,5 +35,5 @@ if [[ ${1:-} == --recent ]]; then
 elif (($# > 0)); then
     printf '%s\0' "$@"
 else
-    find src bench -name '*.cpp' -print0
+    find src bench examples -name '*.cpp' -print0
 fi | xargs -0 -n 1 -P "$(nproc)" clang-tidy -p build/clang --quiet

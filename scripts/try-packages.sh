@@ -90,6 +90,19 @@ for program in build/count ./counted; do
     [[ $records == 10 ]] || die "$program imported $records records instead of 10"
 done
 
+# docs/guide.md and the examples' own pages, with what the package brings: each example is a project of its own.
+step "The guide, from an empty folder to an imported file"
+there 'ls /usr/share/doc/libimportmodule-dev/docs/guide.md'
+there 'cp -r /usr/share/doc/libimportmodule-dev/examples .'
+there 'cd examples/smallest-host && cmake -B build && cmake --build build'
+there 'cd examples/smallest-host && build/smallest-host konto.csv | diff expected.txt -'
+there 'cd examples/preview && cmake -B build && cmake --build build'
+there 'cd examples/preview && build/preview konto.csv header "0=Datum 1=Empfaenger 3=Betrag" import | tail -n 1 | diff <(echo "3 records imported") -'
+there 'cd examples/sessions && cmake -B build && cmake --build build'
+there 'cd examples/sessions && build/sessions gut.csv kasse.qif'
+there 'cd examples/own-model && cmake -B build && cmake --build build'
+there 'cd examples/own-model && build/own-model konto.csv'
+
 step "And away again"
 there 'apt-get -q purge --yes dmimport "libimportmodule*"'
 there 'dpkg -l | grep -E "dmimport|importmodule" && exit 1 || true'

@@ -51,9 +51,7 @@ public:
     explicit Assistant(const char* fileName) {
         m_input.m_fileName = fileName;
         m_input.m_targetNode = m_model.root();
-        // Nobody has said anything yet: a first simulated import finds the delimiter.
-        run(true);
-        m_delimiter = m_frontDoor.getBestDelimiter();
+        findDelimiter();
     }
 
     /// A simulated import with what is known: nothing is written. False when the
@@ -98,6 +96,12 @@ private:
     int run(bool simulate) {
         m_input.m_simulate = simulate ? 1 : 0;
         return m_frontDoor.importFile(m_input, m_delimiter, m_assigned ? &m_assignment : nullptr);
+    }
+
+    void findDelimiter() {
+        // Nobody has said anything yet: a first simulated import finds the delimiter.
+        run(true);
+        m_delimiter = m_frontDoor.getBestDelimiter();
     }
 
     static bool assign(ColumnAssignment& assignment, const std::string& word) {
