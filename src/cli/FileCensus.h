@@ -43,6 +43,7 @@ public:
     const std::vector<std::size_t>& withOpenQuote() const { return m_withOpenQuote; }
 
 private:
+    struct Block;
     struct Line;
     void add(const Line& line);
 

@@ -8,6 +8,8 @@
 #include <system_error>
 #include <unistd.h>
 
+#include "cli/Descriptor.h"
+
 namespace {
 
 constexpr std::size_t kBlock = 1 << 16;
@@ -29,26 +31,26 @@ bool splitBlock(std::string_view bytes, bool unfinished, const FileLines::Sink& 
 
 namespace FileLines {
 
-void scan(const std::string& path, const Sink& sink) {
-    const int file = ::open(path.c_str(), O_RDONLY | O_CLOEXEC);
-    if (file < 0)
+void readBlocks(const std::string& path, const std::function<void(std::string_view block)>& sink) {
+    const Descriptor file(::open(path.c_str(), O_RDONLY | O_CLOEXEC));
+    if (!file.isOpen())
         throw std::system_error(errno, std::generic_category());
     std::vector<char> block(kBlock);
-    bool unfinished = false;
-    int error = 0;
     for (;;) {
-        const ssize_t count = ::read(file, block.data(), block.size());
+        const ssize_t count = ::read(file.number(), block.data(), block.size());
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0)
-            error = errno;
-        if (count <= 0)
-            break;
-        unfinished = splitBlock({block.data(), static_cast<std::size_t>(count)}, unfinished, sink);
+            throw std::system_error(errno, std::generic_category());
+        if (count == 0)
+            return;
+        sink({block.data(), static_cast<std::size_t>(count)});
     }
-    ::close(file);
-    if (error != 0)
-        throw std::system_error(error, std::generic_category());
+}
+
+void scan(const std::string& path, const Sink& sink) {
+    bool unfinished = false;
+    readBlocks(path, [&](std::string_view block) { unfinished = splitBlock(block, unfinished, sink); });
     if (unfinished)
         sink({}, true);
 }

@@ -11,6 +11,9 @@
 /// The physical lines of a file, as bytes; a line may be of any length.
 namespace FileLines {
 
+/// Reads the whole file and hands it over in blocks. Throws std::system_error.
+void readBlocks(const std::string& path, const std::function<void(std::string_view block)>& sink);
+
 /// Gets each piece of a line in turn, without the line feed. `last` says that
 /// the line ends behind the piece.
 using Sink = std::function<void(std::string_view piece, bool last)>;

@@ -19,7 +19,7 @@ public:
     void add(char c) { m_key = (m_key << kShift) ^ static_cast<unsigned char>(c); }
     std::uint32_t value() const { return m_key * kSpread; }
 
-    static constexpr std::size_t kCharacters = 6;
+    static constexpr std::size_t kCharacters = 3;
 
 private:
     static constexpr std::uint32_t kSpread = 3266489917;

@@ -51,18 +51,23 @@ private:
     std::size_t m_count = 0;
 };
 
+constexpr std::size_t kLongestNumber = std::numeric_limits<unsigned>::digits10 + 2; // with a sign
+
 /// As printf's "%0nd": the zeros follow the sign, which counts as a place.
-void appendPadded(std::string& out, int number, std::ptrdiff_t places) {
-    char digits[std::numeric_limits<unsigned>::digits10 + 1];
-    const unsigned magnitude = number < 0 ? 0U - static_cast<unsigned>(number) : static_cast<unsigned>(number);
-    const char* const end = std::to_chars(std::begin(digits), std::end(digits), magnitude).ptr;
+char* writePadded(char* out, int number, int places) {
+    unsigned magnitude = static_cast<unsigned>(number);
     if (number < 0) {
-        out += '-';
+        magnitude = 0U - magnitude;
+        *out++ = '-';
         --places;
     }
-    for (std::ptrdiff_t have = end - digits; have < places; ++have)
-        out += '0';
-    out.append(static_cast<const char*>(digits), end);
+    char digits[kLongestNumber];
+    char* first = std::end(digits);
+    do {
+        *--first = static_cast<char>('0' + magnitude % 10);
+        magnitude /= 10;
+    } while (magnitude != 0 || std::end(digits) - first < places);
+    return std::copy(first, std::end(digits), out);
 }
 
 } // namespace
@@ -198,13 +203,13 @@ DMDate SmartDate::getDate() const {
 }
 
 std::string SmartDate::asString() const {
-    std::string text;
-    appendPadded(text, m_first, 2);
-    text += '.';
-    appendPadded(text, m_second, 2);
-    text += '.';
-    appendPadded(text, m_year, 4);
-    return text;
+    char text[3 * kLongestNumber + 2];
+    char* end = writePadded(text, m_first, 2);
+    *end++ = '.';
+    end = writePadded(end, m_second, 2);
+    *end++ = '.';
+    end = writePadded(end, m_year, 4);
+    return std::string(text, end);
 }
 
 void SmartDate::setupCenturyStart(Node* node) {

@@ -9,6 +9,7 @@
 
 #include "framework/AssertTypeSizes.h"
 #include "framework/Latin1.h"
+#include "framework/LineReader.h"
 #include "framework/MemoryStreamBuf.h"
 
 namespace {
@@ -63,10 +64,11 @@ int ImportFileBase::importFile(const ImportInputParams& params) {
 }
 
 int ImportFileBase::readLines(std::istream& input, Node* target) {
-    char line[kMaxLineLength + 1];
+    LineReader lines(*input.rdbuf());
+    char line[kMaxLineLength + 1]; // of fixed size, since a module may write into it
     for (;;) {
-        input.getline(line, sizeof line);
-        if (input.fail() && !input.eof()) {
+        const LineReader::Outcome outcome = lines.next(line, sizeof line);
+        if (outcome == LineReader::Outcome::unreadable) {
             setErrorLineMsg(kUnreadableLine);
             return eFailed;
         }
@@ -76,7 +78,7 @@ int ImportFileBase::readLines(std::istream& input, Node* target) {
                 return eFailed;
         }
         ++m_lineNo;
-        if (input.eof())
+        if (outcome == LineReader::Outcome::lastLine)
             return m_result;
     }
 }

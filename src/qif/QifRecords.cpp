@@ -1,6 +1,5 @@
 // SPDX-FileCopyrightText: 2026 The ImportModule authors
 // SPDX-License-Identifier: MIT
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <string>
@@ -18,11 +17,24 @@ namespace {
 using QifFieldTables::Action;
 using QifFieldTables::Row;
 
-template <std::size_t size>
-const Row* find(const std::array<Row, size>& rows, char letter) {
-    const auto* row = std::find_if(rows.begin(), rows.end(), [&](const Row& r) { return r.letter == letter; });
-    return row != rows.end() ? row : nullptr;
-}
+/// The rows by their letters, so that none is searched for.
+class RowsByLetter {
+public:
+    template <std::size_t size>
+    constexpr explicit RowsByLetter(const std::array<Row, size>& rows) {
+        for (const Row& row : rows)
+            m_rows[static_cast<unsigned char>(row.letter)] = &row;
+    }
+
+    /// Null for an unknown letter.
+    constexpr const Row* find(char letter) const { return m_rows[static_cast<unsigned char>(letter)]; }
+
+private:
+    std::array<const Row*, 256> m_rows{};
+};
+
+constexpr RowsByLetter kTransactionRows(QifFieldTables::kTransactionFields);
+constexpr RowsByLetter kCategoryRows(QifFieldTables::kCategoryFields);
 
 } // namespace
 
@@ -30,8 +42,7 @@ bool ImportModuleQIF::parseAcountItem(const char* line) {
     const StrippedLine entry(line);
     const char letter = entry.letter();
     m_atRecordStart = letter == QifFieldTables::kEndOfRecord;
-    const Row* field = m_accountType == Category ? find(QifFieldTables::kCategoryFields, letter)
-                                                 : find(QifFieldTables::kTransactionFields, letter);
+    const Row* field = (m_accountType == Category ? kCategoryRows : kTransactionRows).find(letter);
     if (field == nullptr) {
         reportUnknownEntry(line);
         return true;

@@ -13,12 +13,10 @@ class StrippedLine {
 public:
     /// `line` must outlive the object: it is copied only where something is to be stripped, which few lines need.
     explicit StrippedLine(const char* line) : m_text(line) {
-        for (const char blank : {' ', '\t'}) {
-            if (m_text.empty() || (m_text.front() != blank && m_text.back() != blank))
-                continue;
-            m_copy = DMStringFunctions::strip(std::string(m_text), DMStringFunctions::eStripBoth, blank);
-            m_text = m_copy;
-        }
+        if (m_text.empty() || (!isBlank(m_text.front()) && !isBlank(m_text.back())))
+            return;
+        strip(' ');
+        strip('\t');
     }
     StrippedLine(const StrippedLine&) = delete;
     StrippedLine& operator=(const StrippedLine&) = delete;
@@ -29,6 +27,15 @@ public:
     char letter() const { return m_text.empty() ? '\0' : m_text.front(); }
 
 private:
+    static bool isBlank(char c) { return c == ' ' || c == '\t'; }
+
+    void strip(char blank) {
+        if (m_text.empty() || (m_text.front() != blank && m_text.back() != blank))
+            return;
+        m_copy = DMStringFunctions::strip(std::string(m_text), DMStringFunctions::eStripBoth, blank);
+        m_text = m_copy;
+    }
+
     std::string_view m_text;
     std::string m_copy;
 };

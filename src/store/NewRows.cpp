@@ -64,7 +64,7 @@ public:
 
 private:
     void find() {
-        if (!isAtEnd())
+        if (m_rows.m_table != nullptr && !isAtEnd())
             m_fields = m_rows.m_table->rowIfLoaded(m_number)->fields();
     }
 

@@ -72,7 +72,8 @@ const std::vector<Rule> kRules = {
      kPosix + Prefixes{"CLI/", "nlohmann/", "openssl/"}},
     // What suits the whole process.
     {"cli/main.cpp", kContract + kFrontDoors + Prefixes{"cli/", "datamodel/", "export/", "intake/", "store/"},
-     kPosix + Prefixes{"CLI/", "malloc.h", "mimalloc.h", "nlohmann/"}},
+     kPosix + Prefixes{"CLI/", "malloc.h", "nlohmann/"}},
+    {"cli/Allocator.cpp", {"cli/"}, {"mimalloc.h"}},
 };
 
 bool startsWith(std::string_view text, std::string_view start) { return text.substr(0, start.size()) == start; }
