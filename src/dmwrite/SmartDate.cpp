@@ -55,7 +55,7 @@ constexpr std::size_t kLongestNumber = std::numeric_limits<unsigned>::digits10 +
 
 /// As printf's "%0nd": the zeros follow the sign, which counts as a place.
 char* writePadded(char* out, int number, int places) {
-    unsigned magnitude = static_cast<unsigned>(number);
+    auto magnitude = static_cast<unsigned>(number);
     if (number < 0) {
         magnitude = 0U - magnitude;
         *out++ = '-';

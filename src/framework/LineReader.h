@@ -28,7 +28,7 @@ private:
     std::size_t left() const { return static_cast<std::size_t>(m_end - m_next); }
 
     std::streambuf& m_input;
-    std::array<char, 32768> m_bytes;
+    std::array<char, 32768> m_bytes{};
     char* m_next = m_bytes.data(); // behind the last line
     char* m_end = m_bytes.data();  // of what was read
     bool m_isAtEnd = false;        // the stream has no more
