@@ -43,8 +43,8 @@ install(EXPORT ImportModuleTargets NAMESPACE ImportModule::
 set(import_module_cmake_dependencies "")
 set(import_module_pc_requires_private "")
 if(NOT BUILD_SHARED_LIBS)
-    set(import_module_cmake_dependencies "find_dependency(Qt5 5.15 COMPONENTS Core Xml)")
-    set(import_module_pc_requires_private "Qt5Core Qt5Xml")
+    set(import_module_cmake_dependencies "find_dependency(Qt${IMPORT_MODULE_QT} ${import_module_qt_version} COMPONENTS Core Xml)")
+    set(import_module_pc_requires_private "Qt${IMPORT_MODULE_QT}Core Qt${IMPORT_MODULE_QT}Xml")
 endif()
 
 configure_package_config_file(cmake/ImportModuleConfig.cmake.in "${PROJECT_BINARY_DIR}/ImportModuleConfig.cmake"

@@ -41,7 +41,11 @@ This package holds the library, and a data model for programs that have none.")
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libimportmodule-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "${library_package} ${same_version}")
-set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS "cmake (>= 3.23), pkgconf, qtbase5-dev")
+set(qt_development_package qtbase5-dev)
+if(IMPORT_MODULE_QT EQUAL 6)
+    set(qt_development_package qt6-base-dev)
+endif()
+set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SUGGESTS "cmake (>= 3.23), pkgconf, ${qt_development_package}")
 set(CPACK_DEBIAN_DEVELOPMENT_DESCRIPTION "reads bank and finance files - development files
 ImportModule reads delimited text, QIF, StarMoney exports and the XML lists of
 home banking, and writes typed records into a data model that the program

@@ -14,7 +14,7 @@ set -euo pipefail
 # The one list of packages. CMakeLists.txt files name the libraries they link.
 declare -A packages=(
     [build]="g++ cmake ninja-build pkg-config libgtest-dev libgmock-dev libbenchmark-dev
-             libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev qtbase5-dev libicu-dev libssl-dev libmimalloc-dev libxml2-utils binutils locales
+             libsqlite3-dev sqlite3 libcli11-dev nlohmann-json3-dev qtbase5-dev qt6-base-dev libicu-dev libssl-dev libmimalloc-dev libxml2-utils binutils locales
              python3 valgrind make hledger ledger abigail-tools"
     [check]="clang clang-format clang-tidy gcovr doxygen mandoc zsh fish shared-mime-info"
     [package]="dpkg-dev file fakeroot lintian debootstrap"

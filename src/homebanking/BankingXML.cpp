@@ -13,6 +13,7 @@
 #include "homebanking/XmlGuard.h"
 #include "homebanking/XmlImportData.h"
 #include "homebanking/XmlNames.h"
+#include "homebanking/XmlTreeReader.h"
 
 namespace {
 
@@ -111,9 +112,7 @@ bool BankingXML::initXmldocument(QDomDocument& doc, const QByteArray& bytes) {
     if (const char* fault = XmlGuard::findFault(bytes))
         return refuseDocument(fault);
     QString message;
-    int line = 0;
-    int column = 0;
-    if (doc.setContent(bytes, true, &message, &line, &column))
+    if (XmlTreeReader::buildTree(doc, bytes, message))
         return true;
     return refuseDocument(HostAccess::text(message).c_str());
 }
@@ -121,7 +120,7 @@ bool BankingXML::initXmldocument(QDomDocument& doc, const QByteArray& bytes) {
 bool BankingXML::getRootElement(QDomDocument& doc, int version, const char* tag, QDomElement& out) {
     out = doc.firstChildElement();
     const QString text = out.attribute(QString::fromLatin1(g_AttVersion));
-    const int point = text.indexOf(QLatin1Char('.'));
+    const auto point = text.indexOf(QLatin1Char('.'));
     if (point < 0) {
         m_errorMsg = kNoVersion;
         return false;

@@ -97,6 +97,8 @@ void XmlTextScanner::openBang(char16_t first) {
         m_state = State::cdata;
     else
         m_state = State::declaration;
+    if (first == u'A' && m_inSubset) // an ATTLIST
+        m_addsToTheDocument = true;
 }
 
 XmlTextScanner::Place XmlTextScanner::readStartTag(Place at, Place end) {
@@ -161,6 +163,8 @@ XmlTextScanner::Place XmlTextScanner::readDeclaration(Place at, Place end) {
         }
         if (c == u'(')
             ++m_groups;
+        if (c == u'%')
+            m_addsToTheDocument = true;
     }
     return at;
 }
@@ -177,6 +181,8 @@ XmlTextScanner::Place XmlTextScanner::readSubset(Place at, Place end) {
             m_inSubset = false;
             return at;
         }
+        if (c == u'%')
+            m_addsToTheDocument = true;
     }
     return at;
 }

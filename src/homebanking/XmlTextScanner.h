@@ -23,6 +23,8 @@ public:
     bool hasInternalSubset() const { return m_hasInternalSubset; }
     /// Opening parentheses in the declarations of the internal subset.
     std::size_t groups() const { return m_groups; }
+    /// Whether the internal subset declares attributes, or declares or uses parameter entities.
+    bool addsToTheDocument() const { return m_addsToTheDocument; }
     /// "&" in a document with an internal subset, predefined ones among them.
     std::size_t references() const { return m_references; }
 
@@ -70,5 +72,6 @@ private:
     std::size_t m_prefixes = 0;
     bool m_hasInternalSubset = false;
     std::size_t m_groups = 0;
+    bool m_addsToTheDocument = false;
     std::size_t m_references = 0;
 };

@@ -3,10 +3,10 @@
 #include <string>
 
 #include <gtest/gtest.h>
-#include <QtCore/QTextCodec>
 
 #include "framework/Latin1.h"
 #include "homebanking/BankingXML.h"
+#include "homebanking/Encoded.h"
 #include "homebanking/HomeBankingFixture.h"
 
 namespace {
@@ -16,7 +16,7 @@ using HomeBankingXml::kNotXml;
 constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
 
 struct EncodingCase {
-    const char* codec;    ///< what the bytes are; Qt's name
+    const char* codec;    ///< what the bytes are
     const char* before;   ///< bytes before the document
     const char* declared; ///< in the XML declaration; empty without
     const char* stored;   ///< the name "Jürgen €" in the model; null when the document is refused
@@ -36,7 +36,7 @@ const EncodingCase kCases[] = {
     {"UTF-16LE", "", "", "Jürgen ?"_latin1, "found by its first character"},
     {"UTF-16BE", "", "", "Jürgen ?"_latin1, "in both byte orders"},
     {"UTF-16LE", "", "UTF-16LE", "Jürgen ?"_latin1, "and declared"},
-    {"UTF-16BE", "", "UTF-16", "Jürgen ?"_latin1, "and declared without the byte order"},
+    {"UTF-16BE", "\xFE\xFF", "UTF-16", "Jürgen ?"_latin1, "and declared without the byte order"},
     {"UTF-32", "", "", "Jürgen ?"_latin1, "found by its mark"},
     {"UTF-32LE", "", "", "Jürgen ?"_latin1, "found by its first character"},
     {"UTF-32BE", "", "", "Jürgen ?"_latin1, "in both byte orders"},
@@ -51,14 +51,13 @@ const EncodingCase kCases[] = {
 
 class EncodingTest : public HomeBankingFixture<BankingXML> {
 protected:
-    static std::string encoded(const EncodingCase& test) {
+    static std::string bytesOf(const EncodingCase& test) {
         std::string text;
         if (*test.declared != '\0')
             text = "<?xml version=\"1.0\" encoding=\"" + std::string(test.declared) + "\"?>";
         text += "<HomeBanking version=\"1.0\"><kontoliste><konto><blz>100</blz><ktonr>42</ktonr>"
                 "<bezeichnung>Jürgen €</bezeichnung></konto></kontoliste></HomeBanking>";
-        return test.before +
-               QTextCodec::codecForName(test.codec)->fromUnicode(QString::fromUtf8(text.c_str())).toStdString();
+        return test.before + encoded(test.codec, text);
     }
 };
 
@@ -67,7 +66,7 @@ TEST_F(EncodingTest, OfTheDocumentIsWhatTheTreeReaderFinds) {
         SCOPED_TRACE(std::string(test.codec) + " declared \"" + test.declared + "\": " + test.why);
         const FinanceModel model;
         BankingXML banking;
-        const std::string bytes = encoded(test);
+        const std::string bytes = bytesOf(test);
         EXPECT_EQ(banking.updateAccountList(input(bytes, model)), test.stored != nullptr);
         if (test.stored != nullptr) {
             EXPECT_EQ(model.text("HomeBankingImport/1/Bezeichnung"), test.stored);
