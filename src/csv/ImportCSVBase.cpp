@@ -23,6 +23,8 @@ public:
     char* endOf(char* field, char*& firstQuote) const {
         if (m_hasQuotes)
             return endOfQuotable(field, firstQuote);
+        if (*field == m_delimiter) // empty, as many fields of a wide layout are
+            return field;
         void* found = std::memchr(field, m_delimiter, static_cast<std::size_t>(m_end - field));
         return found != nullptr ? static_cast<char*>(found) : m_end;
     }

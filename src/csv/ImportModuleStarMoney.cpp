@@ -38,6 +38,8 @@ constexpr int kRowWidth = static_cast<int>(kLayout.size());
 void readInto(std::string& value, const Source& source, const ImportDataSetStartMoney& row) {
     value.clear();
     for (int column = source.first; column <= source.last; ++column) {
+        if (*row.m_columns[column] == '\0')
+            continue;
         const std::string_view text = row.m_columns[column];
         value += source.quotes == Quotes::strip ? withoutQuotes(text) : text;
     }

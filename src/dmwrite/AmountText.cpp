@@ -6,6 +6,8 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <system_error>
@@ -60,9 +62,38 @@ double leadingNumber(std::string_view text) {
     return negative ? -magnitude : magnitude;
 }
 
+/// The value of an optional sign, digits and at most one mark with two digits behind it, as nearly all amounts are
+/// written: no character is left out then, and the mark is a decimal one. Both numbers of the division are exact, so
+/// that its result is the nearest double.
+std::optional<double> plainAmount(const char* text) {
+    constexpr std::ptrdiff_t kExactDigits = 15;
+    const bool negative = *text == '-';
+    const char* at = negative ? text + 1 : text;
+    const char* const first = at;
+    std::int64_t number = 0;
+    for (; isDigit(*at) && at - first < kExactDigits; ++at)
+        number = number * 10 + (*at - '0');
+    if (at == first)
+        return std::nullopt;
+    double scale = 1.0;
+    if (*at == ',' || *at == '.') {
+        if (at - first > kExactDigits - 2 || !isDigit(at[1]) || !isDigit(at[2]))
+            return std::nullopt;
+        number = number * 100 + (at[1] - '0') * 10 + (at[2] - '0');
+        scale = 100.0;
+        at += 3;
+    }
+    if (*at != '\0')
+        return std::nullopt;
+    const double magnitude = static_cast<double>(number) / scale;
+    return negative ? -magnitude : magnitude;
+}
+
 } // namespace
 
 double AmountText::read(const char* text) {
+    if (const std::optional<double> amount = plainAmount(text))
+        return *amount;
     std::string number = numberCharacters(text);
     if (number.empty())
         return 0.0;

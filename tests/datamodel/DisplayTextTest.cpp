@@ -1,8 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The ImportModule authors
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+#include <array>
 #include <climits>
+#include <cmath>
+#include <cstdio>
 #include <gtest/gtest.h>
 #include <limits>
+#include <random>
 #include <string>
 
 #include "datamodel/ModelTesting.h"
@@ -64,6 +69,27 @@ TEST(DisplayText, IsTheSameUnderACommaDecimalLocale) {
     expectAmounts();
     EXPECT_EQ(display(DataType::makeInteger(1234567)), "1234567");
     EXPECT_EQ(display(date(1, 2, 1234)), "01.02.1234");
+}
+
+/// Two decimals by the C library, which rounds what the double really holds.
+std::string byPrintf(double amount) {
+    std::array<char, 64> text{};
+    std::snprintf(text.data(), text.size(), "%.2f", amount);
+    std::string result = text.data();
+    std::replace(result.begin(), result.end(), '.', ',');
+    return result == "-0,00" ? "0,00" : result;
+}
+
+TEST(DisplayText, AmountsAreRoundedAsTheDoubleLies) {
+    std::mt19937_64 random(20261122);
+    for (int round = 0; round < 200000; ++round) {
+        const auto cents = static_cast<double>(random() >> (14 + random() % 50)); // from 0 to beyond all bounds
+        const double steps = round % 3 == 0 ? 0.0 : static_cast<double>(random() % 9) - 4.0;
+        double amount = cents / (round % 2 == 0 ? 100.0 : 800.0);
+        for (double step = 0; step < std::abs(steps); ++step)
+            amount = std::nextafter(amount, steps < 0 ? 0.0 : kInfinity);
+        ASSERT_EQ(DataType::makeCurrency(-amount).asString(false, 2), byPrintf(-amount)) << "round " << round;
+    }
 }
 
 TEST(DisplayText, DecimalsAreAsManyAsAskedFor) {
