@@ -21,7 +21,7 @@ std::optional<std::uint64_t> wholeCents(double magnitude) {
     constexpr double kMost = 1e13;
     if (!(magnitude < kMost))
         return std::nullopt;
-    const auto cents = static_cast<std::uint64_t>(magnitude * 100.0 + 0.5);
+    const auto cents = static_cast<std::uint64_t>(std::llround(magnitude * 100.0));
     return static_cast<double>(cents) / 100.0 == magnitude ? std::optional(cents) : std::nullopt;
 }
 

@@ -79,7 +79,7 @@ std::optional<double> plainAmount(const char* text) {
     if (*at == ',' || *at == '.') {
         if (at - first > kExactDigits - 2 || !isDigit(at[1]) || !isDigit(at[2]))
             return std::nullopt;
-        number = number * 100 + (at[1] - '0') * 10 + (at[2] - '0');
+        number = number * 100 + std::int64_t{10} * (at[1] - '0') + (at[2] - '0');
         scale = 100.0;
         at += 3;
     }
