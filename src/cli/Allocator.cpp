@@ -1,19 +1,17 @@
 // SPDX-FileCopyrightText: 2026 The ImportModule authors
 // SPDX-License-Identifier: MIT
-#include <mimalloc.h>
+#include "cli/Allocator.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <new>
+
+#include <mimalloc.h>
+#include <sys/mman.h>
 
 namespace {
 
-// Pages of 2 MiB where the system has them to give, and none given back before the end: a large import touches tens of
-// thousands of small ones. That has to be said before the first allocation, which constructors of libraries make.
-void settle() {
-    mi_option_enable(mi_option_large_os_pages);
-    mi_option_disable(mi_option_allow_decommit);
-}
-[[gnu::section(".preinit_array"), gnu::used]] void (*const g_beforeAnything)() = settle;
+constexpr std::size_t kSegment = std::size_t{32} << 20; // what mimalloc asks the system for, at a multiple of it
 
 // mimalloc is built as C where distributions package it: its own `operator new` ends the process where no memory is
 // left. Here that is told like any other failure, and the store keeps what it had.
@@ -24,6 +22,17 @@ void* orThrow(void* memory) {
 }
 
 } // namespace
+
+void Allocator::keepAll() { mi_option_disable(mi_option_allow_decommit); }
+
+void Allocator::useLargePages() {
+    mi_option_enable(mi_option_large_os_pages);
+    // The segment in use came before that, and hardly any of it was touched so far.
+    void* const block = mi_malloc(1);
+    const auto address = reinterpret_cast<std::uintptr_t>(block);
+    ::madvise(static_cast<char*>(block) - address % kSegment, kSegment, MADV_HUGEPAGE); // or it stays as it is
+    mi_free(block);
+}
 
 void* operator new(std::size_t size) { return orThrow(mi_malloc(size)); }
 

@@ -2,8 +2,14 @@
 // SPDX-License-Identifier: MIT
 #include "cli/Program.h"
 
+#include <algorithm>
+#include <cstdint>
 #include <exception>
+#include <filesystem>
 #include <optional>
+#include <string>
+#include <system_error>
+#include <vector>
 
 #include "cli/CommandLine.h"
 #include "cli/Console.h"
@@ -24,10 +30,23 @@ ExitStatus run(const CommandLine& line, Console& console) {
     }
 }
 
-ExitStatus runChecked(int count, const char* const* arguments, std::optional<Console>& console) {
+constexpr std::uintmax_t kMuch = 1 << 20;
+
+bool isMuch(const std::vector<std::string>& files) {
+    return std::any_of(files.begin(), files.end(), [](const std::string& file) {
+        std::error_code error;
+        const std::uintmax_t size = std::filesystem::file_size(file, error);
+        return !error && size > kMuch;
+    });
+}
+
+ExitStatus runChecked(int count, const char* const* arguments, std::optional<Console>& console,
+                      const std::function<void()>& expectMuch) {
     const CommandLine line = CommandLine::parse(count, arguments);
     console.emplace(line.options);
     LeftScratch::removeAll();
+    if (expectMuch && isMuch(line.options.operands))
+        expectMuch();
     if (line.command != nullptr)
         return run(line, *console);
     console->write(line.answer);
@@ -36,12 +55,12 @@ ExitStatus runChecked(int count, const char* const* arguments, std::optional<Con
 
 } // namespace
 
-ExitStatus Program::run(int count, const char* const* arguments) {
+ExitStatus Program::run(int count, const char* const* arguments, const std::function<void()>& expectMuch) {
     std::optional<Console> console; // as the command line wants it; a plain one as long as that is not known
     const auto speaker = [&console]() -> Console& { return console ? *console : console.emplace(Options()); };
     ExitStatus status = ExitStatus::refused;
     try {
-        status = runChecked(count, arguments, console);
+        status = runChecked(count, arguments, console, expectMuch);
     } catch (const UsageError& error) {
         speaker().reportUsage(error.what());
         status = ExitStatus::usage;

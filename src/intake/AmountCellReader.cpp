@@ -20,6 +20,26 @@ constexpr std::array<std::string_view, 54> kCurrencies = {
     "ILS", "THB",  "KRW",  "AED",  "TND", "UAH", "zl",  "Kc",  "Ft",  "lei", "R$",   "kr.",
 };
 
+/// The characters with which currencies begin or end; most texts have others there.
+class CurrencyEdges {
+public:
+    constexpr CurrencyEdges() {
+        for (const std::string_view currency : kCurrencies) {
+            m_begins[static_cast<unsigned char>(currency.front())] = true;
+            m_ends[static_cast<unsigned char>(currency.back())] = true;
+        }
+    }
+
+    constexpr bool fit(std::string_view text) const {
+        return m_begins[static_cast<unsigned char>(text.front())] || m_ends[static_cast<unsigned char>(text.back())];
+    }
+
+private:
+    std::array<bool, 256> m_begins{};
+    std::array<bool, 256> m_ends{};
+};
+constexpr CurrencyEdges kCurrencyEdges;
+
 struct SignWord {
     std::string_view word;
     AmountCell::Sign sign;
@@ -84,6 +104,8 @@ private:
     }
 
     bool peelCurrency() {
+        if (!kCurrencyEdges.fit(m_text))
+            return false;
         // NOLINTNEXTLINE(readability-use-anyofallof): the body changes what is read, which a predicate should not
         for (const std::string_view currency : kCurrencies) {
             const bool ahead = m_text.front() == currency.front() && m_text.starts_with(currency);

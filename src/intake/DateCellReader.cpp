@@ -1,5 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The ImportModule authors
 // SPDX-License-Identifier: MIT
+#include <algorithm>
+
 #include "intake/Dates.h"
 #include "intake/MonthNames.h"
 #include "intake/TextTools.h"
@@ -204,7 +206,8 @@ namespace DateCells {
 
 std::optional<DateCell> read(std::string_view raw) {
     const std::string_view text = TextTools::trim(raw);
-    if (text.size() < kShortestDate || text.size() > kLongestDate)
+    if (text.size() < kShortestDate || text.size() > kLongestDate ||
+        std::none_of(text.begin(), text.end(), TextTools::isDigit))
         return std::nullopt;
     if (text.size() == 10) {
         if (auto usual = readTenCharacters(text))

@@ -34,6 +34,14 @@ constexpr std::array<MonthName, 97> kMonths = {{
     {"grudnia", 12},
 }};
 constexpr std::size_t kShortest = 3;
+constexpr std::size_t kLongest = 12; // "pazdziernika"
+
+/// By name, so that those which begin alike stand together.
+constexpr auto kMonthsByName = [] {
+    auto sorted = kMonths;
+    std::sort(sorted.begin(), sorted.end(), [](const MonthName& a, const MonthName& b) { return a.name < b.name; });
+    return sorted;
+}();
 
 constexpr std::array<std::string_view, 40> kWeekdays = {
     "mo",        "di",         "mi",      "do",       "fr",        "sa",      "so",     "mon",
@@ -48,16 +56,19 @@ constexpr std::array<std::string_view, 40> kWeekdays = {
 namespace MonthNames {
 
 int month(std::string_view word) {
+    if (word.size() > kLongest)
+        return 0;
     const std::string folded = TextTools::fold(word);
     if (folded.size() < kShortest)
         return 0;
     int found = 0;
-    for (const MonthName& row : kMonths) {
-        if (!row.name.starts_with(folded))
-            continue;
-        if (found != 0 && found != row.month)
+    const auto* row =
+        std::lower_bound(kMonthsByName.begin(), kMonthsByName.end(), folded,
+                         [](const MonthName& known, const std::string& name) { return known.name < name; });
+    for (; row != kMonthsByName.end() && row->name.starts_with(folded); ++row) {
+        if (found != 0 && found != row->month)
             return 0;
-        found = row.month;
+        found = row->month;
     }
     return found;
 }

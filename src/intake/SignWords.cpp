@@ -146,6 +146,12 @@ constexpr std::array<Row, 55> kKinds = {{
     {"pagamento pos", kMinus},
 }};
 
+constexpr auto kMarksByWord = [] {
+    auto sorted = kMarks;
+    std::sort(sorted.begin(), sorted.end(), [](const Row& a, const Row& b) { return a.word < b.word; });
+    return sorted;
+}();
+
 constexpr std::size_t kLongestMark = 20;
 constexpr std::size_t kLongestKind = 60;
 
@@ -162,8 +168,9 @@ std::optional<AmountCell::Sign> read(std::string_view cell) {
     if (text.empty() || text.size() > kLongestMark)
         return std::nullopt;
     const std::string folded = TextTools::fold(text);
-    const auto* row = std::find_if(kMarks.begin(), kMarks.end(), [&](const Row& r) { return r.word == folded; });
-    return row == kMarks.end() ? std::nullopt : std::optional(row->sign);
+    const auto* row = std::lower_bound(kMarksByWord.begin(), kMarksByWord.end(), folded,
+                                       [](const Row& known, const std::string& word) { return known.word < word; });
+    return row != kMarksByWord.end() && row->word == folded ? std::optional(row->sign) : std::nullopt;
 }
 
 std::optional<AmountCell::Sign> ofKind(std::string_view cell) {

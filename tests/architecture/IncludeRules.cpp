@@ -73,7 +73,7 @@ const std::vector<Rule> kRules = {
     // What suits the whole process.
     {"cli/main.cpp", kContract + kFrontDoors + Prefixes{"cli/", "datamodel/", "export/", "intake/", "store/"},
      kPosix + Prefixes{"CLI/", "malloc.h", "nlohmann/"}},
-    {"cli/Allocator.cpp", {"cli/"}, {"mimalloc.h"}},
+    {"cli/Allocator.cpp", {"cli/"}, kPosix + Prefixes{"mimalloc.h"}},
 };
 
 bool startsWith(std::string_view text, std::string_view start) { return text.substr(0, start.size()) == start; }
