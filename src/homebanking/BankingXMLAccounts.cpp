@@ -29,9 +29,7 @@ bool BankingXML::importKonten(const QDomElement& list) {
         return false;
     AccountIndex accounts(*table);
     const QString accountTag = QString::fromLatin1(g_tagKonto);
-    const QDomNodeList children = list.childNodes();
-    for (int i = 0; i < children.count(); ++i) {
-        const QDomNode konto = children.item(i);
+    for (QDomNode konto = list.firstChild(); !konto.isNull(); konto = konto.nextSibling()) {
         if (konto.nodeName() != accountTag)
             return false;
         if (importKonto(konto, accounts))

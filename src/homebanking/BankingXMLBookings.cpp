@@ -73,9 +73,7 @@ bool BankingXML::importBuchnungen(const QDomElement& list) {
     if (blz.isEmpty() || ktonr.isEmpty()) // only now: an account without a number is known, yet takes no bookings
         return false;
     const QString bookingTag = QString::fromLatin1(g_tagBuchung);
-    const QDomNodeList children = list.childNodes();
-    for (int i = 0; i < children.count(); ++i) {
-        const QDomNode buchung = children.item(i);
+    for (QDomNode buchung = list.firstChild(); !buchung.isNull(); buchung = buchung.nextSibling()) {
         if (buchung.nodeName() != bookingTag)
             return false;
         if (!importBuchnung(buchung, account))

@@ -1,10 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The ImportModule authors
 // SPDX-License-Identifier: MIT
-// As QtParserExemption.cpp, for the reader that Qt 6 builds its trees with.
+// As QtParserExemption.cpp, for the reader that Qt 6 builds its trees with: it ends the process in functions that must
+// not throw, as soon as it is made.
 #include <dlfcn.h>
 
 #include "reliability/FailingMemory.h"
 
+class QByteArray;
 class QDomDocument;
 class QString;
 class QXmlStreamReader;
@@ -18,6 +20,8 @@ Function theirs(const char* name) {
 
 constexpr char kSetContent[] = "_ZN12QDomDocument10setContentEP16QXmlStreamReaderbP7QStringPiS4_";
 constexpr char kReadNext[] = "_ZN16QXmlStreamReader8readNextEv";
+constexpr char kReaderOfBytes[] = "_ZN16QXmlStreamReaderC1ERK10QByteArray";
+constexpr char kReaderOfText[] = "_ZN16QXmlStreamReaderC2ERK7QString"; // a derived class calls this one
 
 } // namespace
 
@@ -26,6 +30,10 @@ setContent(QDomDocument* document, QXmlStreamReader* reader, bool names, QString
            int* column) __asm__("_ZN12QDomDocument10setContentEP16QXmlStreamReaderbP7QStringPiS4_");
 __attribute__((visibility("default"))) int
 readNext(QXmlStreamReader* reader) __asm__("_ZN16QXmlStreamReader8readNextEv");
+__attribute__((visibility("default"))) void
+readerOfBytes(QXmlStreamReader* reader, const QByteArray& bytes) __asm__("_ZN16QXmlStreamReaderC1ERK10QByteArray");
+__attribute__((visibility("default"))) void
+readerOfText(QXmlStreamReader* reader, const QString& text) __asm__("_ZN16QXmlStreamReaderC2ERK7QString");
 
 bool setContent(QDomDocument* document, QXmlStreamReader* reader, bool names, QString* message, int* line,
                 int* column) {
@@ -38,4 +46,16 @@ int readNext(QXmlStreamReader* reader) {
     static const auto real = theirs<decltype(&readNext)>(kReadNext);
     const FailingMemory::Pause pause;
     return real(reader);
+}
+
+void readerOfBytes(QXmlStreamReader* reader, const QByteArray& bytes) {
+    static const auto real = theirs<decltype(&readerOfBytes)>(kReaderOfBytes);
+    const FailingMemory::Pause pause;
+    real(reader, bytes);
+}
+
+void readerOfText(QXmlStreamReader* reader, const QString& text) {
+    static const auto real = theirs<decltype(&readerOfText)>(kReaderOfText);
+    const FailingMemory::Pause pause;
+    real(reader, text);
 }
