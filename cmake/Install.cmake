@@ -70,7 +70,11 @@ pkg_config_file(ImportModule "${PROJECT_DESCRIPTION}" "" "${import_module_pc_req
 pkg_config_file(Dm "In-memory data model that ImportModule can write to" "DmBasicServices" "")
 pkg_config_file(DmBasicServices "Dates, texts, paths and bounds below the data model" "" "")
 
-# The pages and the projects; what builds them in here stays here.
+# The pages and the projects, with whatever they lead to; what builds them in here stays here.
+install(FILES README.md CONTRIBUTING.md CHANGELOG.md DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT Development)
+install(FILES bench/README.md DESTINATION "${CMAKE_INSTALL_DOCDIR}/bench" COMPONENT Development)
+install(DIRECTORY data DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT Development)
+install(DIRECTORY tests/consumer DESTINATION "${CMAKE_INSTALL_DOCDIR}/tests" COMPONENT Development)
 install(DIRECTORY docs examples DESTINATION "${CMAKE_INSTALL_DOCDIR}" COMPONENT Development
     PATTERN docs/man EXCLUDE
     PATTERN docs/CMakeLists.txt EXCLUDE

@@ -75,7 +75,7 @@ TEST_F(ShowCommandTest, AmountsInJsonAreTheShortestThatReadBack) {
 
 TEST_F(ShowCommandTest, LimitShowsTheFirstRows) {
     EXPECT_EQ(Json::parse(showing({"--json", "--limit", "2"}).output).at("dataSets").size(), 2U);
-    EXPECT_THAT(showing({"--limit", "2"}).output, Says("2 von 3 Datensätze"));
+    EXPECT_THAT(showing({"--limit", "2"}).output, Says("2 von 3 Datensätzen"));
     EXPECT_EQ(showing({"--limit", "0", "--json"}).output, "{\"dataSets\":[]}\n");
     EXPECT_EQ(showing({"--limit", "99999999999"}).output, showing({}).output);
 }

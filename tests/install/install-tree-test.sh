@@ -46,6 +46,15 @@ if [[ -n $extra ]]; then
     printf 'installed, but of no use there: %s\n' "$extra"
     ((++failures))
 fi
+# Every link of a page leads to what is there as well.
+while IFS=: read -r page link; do
+    target=${link#*](}
+    target=${target%%[#)]*}
+    if [[ -n $target && $target != *://* && ! -e ${page%/*}/$target ]]; then
+        echo "leads nowhere: $target in ${page#"$tree"/}"
+        ((++failures))
+    fi
+done < <(grep -roH --include='*.md' ']([^) ]*)' "$tree"/share/doc)
 if grep -rIl --exclude='*.a' -e "$build" -e "$tree.first" "$tree"; then
     echo "the files above name the folder of the build or of the installation"
     ((++failures))

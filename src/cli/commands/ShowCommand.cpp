@@ -55,8 +55,13 @@ public:
             for (const ShownRow& row : m_rows)
                 table.write(cells(row));
         }
-        const std::string all = std::to_string(m_total) + " " + (m_total == 1 ? m_table.one : m_table.many);
-        console.summary(m_rows.size() < m_total ? std::to_string(m_rows.size()) + " von " + all : all);
+        std::string all = std::to_string(m_total) + " " + (m_total == 1 ? m_table.one : m_table.many);
+        if (m_rows.size() < m_total) {
+            if (m_total != 1 && !all.ends_with('n'))
+                all += 'n'; // the dative
+            all = std::to_string(m_rows.size()) + " von " + all;
+        }
+        console.summary(all);
     }
 
 private:
