@@ -21,6 +21,7 @@ XmlLimits::XmlLimits(const XmlTextScanner& scanner)
 bool XmlLimits::areKept(const XmlTextScanner& scanner) {
     return scanner.deepestLevel() <= kDeepestLevel && scanner.mostAttributes() <= kMostAttributes &&
            scanner.prefixes() < kMostPrefixes && // one more has no prefix, and no colon, but may come on every level
+           // Each of them may be a namespace in force on every level below.
            scanner.deepestLevel() * scanner.mostAttributes() <= kMostAttributes;
 }
 
@@ -58,9 +59,12 @@ bool XmlLimits::refuse(Fault fault) {
 
 std::size_t XmlLimits::expandedSize(const QString& value) {
     auto size = static_cast<std::size_t>(value.size());
-    for (auto at = value.indexOf(QLatin1Char('&')); at >= 0; at = value.indexOf(QLatin1Char('&'), at + 1)) {
-        const auto end = value.indexOf(QLatin1Char(';'), at);
-        const QString name = value.mid(at + 1, end < 0 ? -1 : end - at - 1);
+    for (auto at = value.indexOf(QLatin1Char('&')); at >= 0;) {
+        // No further than the next one: a value may hold thousands without an end.
+        const auto next = value.indexOf(QLatin1Char('&'), at + 1);
+        const QString part = value.mid(at + 1, next < 0 ? -1 : next - at - 1);
+        const QString name = part.left(part.indexOf(QLatin1Char(';')));
+        at = next;
         const auto known = m_entitySizes.constFind(name);
         if (known == m_entitySizes.constEnd())
             m_awaited.insert(name); // predefined, never declared, or of a size not known yet

@@ -232,6 +232,13 @@ TEST_F(HostileDocumentsTest, DocumentTypeThatAnEntityHolds) {
     EXPECT_TRUE(saysNotXml());
 }
 
+TEST_F(HostileDocumentsTest, ReferencesThatAValueBeginsAndNeverEnds) {
+    // Were each read up to the end of the value, they would take 60 GB.
+    const std::string value = repeated("&#38;", 250000);
+    expectRefused(inSubset("<!ENTITY e '" + value + "'>", namedAccount("x")), kDocumentType);
+    expectRefused(inSubset("<!ENTITY e '" + value + ";'>", namedAccount("x")), kDocumentType);
+}
+
 TEST_F(HostileDocumentsTest, PrefixDeclaredOnEveryLevel) {
     std::string deep;
     for (int level = 0; level < 900; ++level)
