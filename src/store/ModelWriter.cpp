@@ -27,15 +27,15 @@ void ModelWriter::writeTable(StoredTable& stored, TableNode& table, std::int64_t
     const unsigned firstNew = table.storedRowCount() + 1;
     const std::int64_t firstNewId = firstNew <= count ? stored.insert(table, firstNew, owner) : 0;
     const bool hasTables = !stored.layout().nested().empty();
-    for (unsigned number = 1; number < (hasTables ? count + 1 : firstNew); ++number) {
-        RecordNode* record = table.rowIfLoaded(number);
-        if (record == nullptr)
-            continue;
-        const bool isNew = number >= firstNew;
-        if (!isNew && record->isChanged())
+    for (unsigned number = 1; number < firstNew; ++number) {
+        const RecordNode* record = table.rowIfLoaded(number);
+        if (record != nullptr && record->isChanged())
             stored.update(*record, record->storeId());
-        if (hasTables)
-            writeTables(stored, *record, isNew ? firstNewId + (number - firstNew) : record->storeId());
+    }
+    for (unsigned number = 1; hasTables && number <= count; ++number) {
+        RecordNode* record = table.rowIfLoaded(number);
+        if (record != nullptr)
+            writeTables(stored, *record, number < firstNew ? record->storeId() : firstNewId + (number - firstNew));
     }
     if (firstNewId != 0 || !table.removedStoreIds().empty())
         m_tree->counts().set(stored.layout(), owner, count);

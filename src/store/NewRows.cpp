@@ -2,11 +2,13 @@
 // SPDX-License-Identifier: MIT
 #include "store/NewRows.h"
 
+#include <cstddef>
 #include <memory>
 #include <new>
 #include <span>
 #include <string_view>
 
+#include "datamodel/RecordNode.h"
 #include "store/StoredField.h"
 
 struct NewRows::Table : sqlite3_vtab {

@@ -4,12 +4,9 @@
 
 #include <sqlite3.h>
 
-#include <cstddef>
 #include <cstdint>
-#include <span>
 #include <string>
 
-#include "datamodel/RecordNode.h"
 #include "datamodel/TableNode.h"
 #include "store/SqliteConnection.h"
 #include "store/TableLayout.h"
@@ -25,8 +22,8 @@ public:
     NewRows(const NewRows&) = delete;
     NewRows& operator=(const NewRows&) = delete;
 
-    /// What the table is called in statements.
-    const std::string& name() const { return m_name; }
+    /// What statements read from. With brackets, so that a table of the file that has the name is not meant.
+    std::string source() const { return m_name + "()"; }
     /// From now on the table has the rows of `table` from number `first` on.
     /// They must be in memory, and stay as they are while a statement reads.
     void show(const TableNode& table, unsigned first, std::int64_t owner);

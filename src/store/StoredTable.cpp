@@ -18,14 +18,17 @@ SqliteStatement& StoredTable::prepared(std::optional<SqliteStatement>& statement
 std::int64_t StoredTable::insert(const TableNode& table, unsigned first, std::int64_t owner) {
     if (!m_insert) {
         m_newRows.emplace(*m_connection, *m_layout);
-        m_insert.emplace(*m_connection, m_layout->insertSql(m_newRows->name()));
+        m_insert.emplace(*m_connection, m_layout->insertSql(m_newRows->source()));
     }
+    const std::int64_t before = m_connection->number(("SELECT max(id) FROM " + m_layout->name()).c_str());
     m_newRows->show(table, first, owner);
     m_insert->run();
     const int count = static_cast<int>(table.getNodeCount() - first + 1);
-    if (sqlite3_changes(m_connection->handle()) != count)
-        m_connection->failDamaged("Tabelle " + m_layout->name() + " nimmt nicht alle Zeilen an");
-    return sqlite3_last_insert_rowid(m_connection->handle()) - count + 1;
+    // Behind the largest id of all SQLite draws the next ones.
+    if (sqlite3_changes(m_connection->handle()) != count ||
+        sqlite3_last_insert_rowid(m_connection->handle()) - count != before)
+        m_connection->failDamaged("Tabelle " + m_layout->name() + " nimmt neue Zeilen nicht der Reihe nach an");
+    return before + 1;
 }
 
 void StoredTable::update(const RecordNode& record, std::int64_t id) {

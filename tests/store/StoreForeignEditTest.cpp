@@ -73,6 +73,24 @@ TEST_F(StoreForeignEdit, IdsMayBeAnyNumber) {
     EXPECT_EQ((Numbers{0, 1, 2, 3, 4, 5, 6}), numbers());
 }
 
+TEST_F(StoreForeignEdit, RowsThatFindNoIdBehindTheLastAreRefused) {
+    edit("INSERT INTO DataSets (id, UniqueID) VALUES (9223372036854775805, 6)");
+    {
+        Store store = Store::open(m_file, Store::Access::readWrite);
+        appendRecords(store.model(), 7, 9); // the third would get an id anywhere
+        EXPECT_EQ("store-damaged", storeErrorCodeOf([&] { store.commit(); }));
+    }
+    EXPECT_EQ((Numbers{1, 2, 3, 4, 5, 6}), numbers());
+}
+
+TEST_F(StoreForeignEdit, TableWithTheNameThatNewRowsHaveIsNotReadInTheirPlace) {
+    edit("CREATE TABLE new_rows_of_DataSets AS SELECT * FROM DataSets WHERE id = 1");
+    Store store = Store::open(m_file, Store::Access::readWrite);
+    appendRecords(store.model(), 6, 6);
+    EXPECT_EQ("store-damaged", storeErrorCodeOf([&] { store.commit(); }));
+    EXPECT_EQ((Numbers{1, 2, 3, 4, 5}), numbers());
+}
+
 TEST_F(StoreForeignEdit, BookingsChangedByHandAreCounted) {
     edit("DELETE FROM HomeBankingDataSets WHERE KontoID = 1 AND BuchungsID = 'B2'");
     edit("INSERT INTO HomeBankingDataSets (KontoID, BuchungsID) VALUES (2, 'B4')");
