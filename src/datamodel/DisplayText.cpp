@@ -25,7 +25,7 @@ std::optional<std::uint64_t> wholeCents(double magnitude) {
     return static_cast<double>(cents) / 100.0 == magnitude ? std::optional(cents) : std::nullopt;
 }
 
-/// Room for the digits of every amount.
+/// The digits of an amount that is not negative, with a point.
 class FixedPoint {
 public:
     FixedPoint(double magnitude, unsigned short decimals) {
@@ -35,6 +35,9 @@ public:
         else
             write(magnitude, decimals);
     }
+
+    FixedPoint(const FixedPoint&) = delete;
+    FixedPoint& operator=(const FixedPoint&) = delete;
 
     std::string_view text() const { return m_text; }
 

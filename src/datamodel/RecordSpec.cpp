@@ -12,8 +12,9 @@ namespace {
 
 constexpr std::size_t kMostChildren = 255; // a bucket holds position plus one in a byte
 
-// Of the first characters, so that a name need not be measured first. Few names
-// of a schema begin alike. The multiplier spreads them over the upper bits.
+// Of the first characters, so that a name need not be measured first. Those that begin alike are looked at one after
+// the other: with more characters they are fewer, but every name costs more. The multiplier spreads them over the upper
+// bits.
 class NameHash {
 public:
     void add(char c) { m_key = (m_key << kShift) ^ static_cast<unsigned char>(c); }

@@ -33,8 +33,10 @@ LineReader::Outcome LineReader::next(char* line, std::size_t size) {
 /// Moves the beginning of a line to the front and puts behind it what the stream has at hand, but no more: what was
 /// read before a failure counts.
 void LineReader::refill() {
-    m_end = std::copy(m_next, m_end, m_bytes.data());
+    const std::size_t begun = left();
+    std::memmove(m_bytes.data(), m_next, begun);
     m_next = m_bytes.data();
+    m_end = m_next + begun;
     m_isAtEnd = m_input.sgetc() == std::streambuf::traits_type::eof();
     if (!m_isAtEnd)
         m_end += m_input.sgetn(m_end,

@@ -16,7 +16,7 @@ public:
         unreadable, ///< longer than the caller has room for, or the stream failed
     };
 
-    /// `input` must outlive the reader.
+    /// `input` must outlive the reader, and hand its bytes out in blocks, as those of files and of memory do.
     explicit LineReader(std::streambuf& input) : m_input(input) {}
 
     /// Copies the next line without its line feed into `line`, ended by a zero byte. `size` is the room there, at

@@ -34,7 +34,6 @@ constexpr std::array<MonthName, 97> kMonths = {{
     {"grudnia", 12},
 }};
 constexpr std::size_t kShortest = 3;
-constexpr std::size_t kLongest = 12; // "pazdziernika"
 
 /// By name, so that those which begin alike stand together.
 constexpr auto kMonthsByName = [] {
@@ -56,8 +55,6 @@ constexpr std::array<std::string_view, 40> kWeekdays = {
 namespace MonthNames {
 
 int month(std::string_view word) {
-    if (word.size() > kLongest)
-        return 0;
     const std::string folded = TextTools::fold(word);
     if (folded.size() < kShortest)
         return 0;

@@ -151,6 +151,8 @@ constexpr auto kMarksByWord = [] {
     std::sort(sorted.begin(), sorted.end(), [](const Row& a, const Row& b) { return a.word < b.word; });
     return sorted;
 }();
+static_assert(std::adjacent_find(kMarksByWord.begin(), kMarksByWord.end(),
+                                 [](const Row& a, const Row& b) { return a.word == b.word; }) == kMarksByWord.end());
 
 constexpr std::size_t kLongestMark = 20;
 constexpr std::size_t kLongestKind = 60;

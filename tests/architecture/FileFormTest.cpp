@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The ImportModule authors
 // SPDX-License-Identifier: MIT
 #include <algorithm>
+#include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -50,6 +52,23 @@ TEST(FileForm, ChecksTellGoodFromBad) {
 TEST(FileForm, EveryFileStartsWithItsLicence) {
     for (const SourceFile& file : SourceTree::files())
         EXPECT_TRUE(startsWithLicence(file)) << file.path;
+}
+
+TEST(FileForm, EveryListOfSourcesStartsWithItsLicence) {
+    int count = 0;
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(IMPORT_MODULE_SOURCE_ROOT)) {
+        if (entry.path().filename() != "CMakeLists.txt")
+            continue;
+        std::ifstream input(entry.path());
+        std::string copyright;
+        std::string licence;
+        std::getline(input, copyright);
+        std::getline(input, licence);
+        EXPECT_EQ(copyright, "#" + kCopyright.substr(2)) << entry.path();
+        EXPECT_EQ(licence, "#" + kLicence.substr(2)) << entry.path();
+        ++count;
+    }
+    EXPECT_GE(count, 10);
 }
 
 TEST(FileForm, EveryHeaderIsGuarded) {

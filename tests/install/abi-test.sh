@@ -38,7 +38,9 @@ differs libImportModule "/enumerator name='eColDatum'/d" eColDatum
 # Where there is no record it is written, and is the same then as the one that is kept, to abidiff.
 rm -f "$work"/*.abi
 "$script" --write "$build" "$work" >"$work/report"
-"$script" "$build" "$work"
+for record in "$records"/*.abi; do
+    abidiff --harmless "$record" "$work/${record##*/}" || ((++failures))
+done
 [[ $(ls "$work"/*.abi | wc -l) == $(ls "$records"/*.abi | wc -l) ]] || {
     echo "FAILED: not every record was written"
     ((++failures))

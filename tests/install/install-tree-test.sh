@@ -47,7 +47,9 @@ if [[ -n $extra ]]; then
     ((++failures))
 fi
 # Every link of a page leads to what is there as well.
+links=0
 while IFS=: read -r page link; do
+    ((++links))
     target=${link#*](}
     target=${target%%[#)]*}
     if [[ -n $target && $target != *://* && ! -e ${page%/*}/$target ]]; then
@@ -55,6 +57,10 @@ while IFS=: read -r page link; do
         ((++failures))
     fi
 done < <(grep -roH --include='*.md' ']([^) ]*)' "$tree"/share/doc)
+if ((links == 0)); then
+    echo "no page has a link"
+    ((++failures))
+fi
 if grep -rIl --exclude='*.a' -e "$build" -e "$tree.first" "$tree"; then
     echo "the files above name the folder of the build or of the installation"
     ((++failures))
