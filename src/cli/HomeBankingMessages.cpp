@@ -117,7 +117,8 @@ Message ofFailure(const HomeBankingDocument& document, const XmlList& list, cons
     if (errorText.empty() && list.isFound() && !document.isAccountList && lacksNumber(list))
         return Message::of(Problem::accountNumberMissing, {});
     if (errorText.empty() && list.isFound()) // nothing is left but a failure inside, and those have no text
-        return Message::of(Problem::unexpected, {"Die Bibliothek brach ab; vermutlich reicht der Arbeitsspeicher nicht"});
+        return Message::of(Problem::unexpected,
+                           {"Die Bibliothek brach ab; vermutlich reicht der Arbeitsspeicher nicht"});
     return ofText(errorText);
 }
 
