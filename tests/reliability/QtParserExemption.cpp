@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 // Qt's XML parser does not survive the loss of memory: it follows null pointers. While it reads a document, nothing
 // fails here; what the library does before and behind it does. Where the library calls it, it gets to these functions.
-#include <dlfcn.h>
-
 #include "reliability/FailingMemory.h"
+#include "reliability/NextFunction.h"
 
 class QByteArray;
 class QDomDocument;
@@ -13,11 +12,6 @@ class QXmlInputSource;
 class QXmlSimpleReader;
 
 namespace {
-
-template <typename Function>
-Function theirs(const char* name) {
-    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
-}
 
 constexpr char kSetContent[] = "_ZN12QDomDocument10setContentERK10QByteArraybP7QStringPiS5_";
 constexpr char kParse[] = "_ZN16QXmlSimpleReader5parseERK15QXmlInputSource";
@@ -32,13 +26,13 @@ parse(QXmlSimpleReader* reader,
       const QXmlInputSource& source) __asm__("_ZN16QXmlSimpleReader5parseERK15QXmlInputSource");
 
 bool setContent(QDomDocument* document, const QByteArray& bytes, bool names, QString* message, int* line, int* column) {
-    static const auto real = theirs<decltype(&setContent)>(kSetContent);
+    static const auto real = nextFunction<decltype(&setContent)>(kSetContent);
     const FailingMemory::Pause pause;
     return real(document, bytes, names, message, line, column);
 }
 
 bool parse(QXmlSimpleReader* reader, const QXmlInputSource& source) {
-    static const auto real = theirs<decltype(&parse)>(kParse);
+    static const auto real = nextFunction<decltype(&parse)>(kParse);
     const FailingMemory::Pause pause;
     return real(reader, source);
 }

@@ -2,9 +2,8 @@
 // SPDX-License-Identifier: MIT
 // As QtParserExemption.cpp, for the reader that Qt 6 builds its trees with: it ends the process in functions that must
 // not throw, as soon as it is made.
-#include <dlfcn.h>
-
 #include "reliability/FailingMemory.h"
+#include "reliability/NextFunction.h"
 
 class QByteArray;
 class QDomDocument;
@@ -12,11 +11,6 @@ class QString;
 class QXmlStreamReader;
 
 namespace {
-
-template <typename Function>
-Function theirs(const char* name) {
-    return reinterpret_cast<Function>(dlsym(RTLD_NEXT, name));
-}
 
 constexpr char kSetContent[] = "_ZN12QDomDocument10setContentEP16QXmlStreamReaderbP7QStringPiS4_";
 constexpr char kReadNext[] = "_ZN16QXmlStreamReader8readNextEv";
@@ -37,25 +31,25 @@ readerOfText(QXmlStreamReader* reader, const QString& text) __asm__("_ZN16QXmlSt
 
 bool setContent(QDomDocument* document, QXmlStreamReader* reader, bool names, QString* message, int* line,
                 int* column) {
-    static const auto real = theirs<decltype(&setContent)>(kSetContent);
+    static const auto real = nextFunction<decltype(&setContent)>(kSetContent);
     const FailingMemory::Pause pause;
     return real(document, reader, names, message, line, column);
 }
 
 int readNext(QXmlStreamReader* reader) {
-    static const auto real = theirs<decltype(&readNext)>(kReadNext);
+    static const auto real = nextFunction<decltype(&readNext)>(kReadNext);
     const FailingMemory::Pause pause;
     return real(reader);
 }
 
 void readerOfBytes(QXmlStreamReader* reader, const QByteArray& bytes) {
-    static const auto real = theirs<decltype(&readerOfBytes)>(kReaderOfBytes);
+    static const auto real = nextFunction<decltype(&readerOfBytes)>(kReaderOfBytes);
     const FailingMemory::Pause pause;
     real(reader, bytes);
 }
 
 void readerOfText(QXmlStreamReader* reader, const QString& text) {
-    static const auto real = theirs<decltype(&readerOfText)>(kReaderOfText);
+    static const auto real = nextFunction<decltype(&readerOfText)>(kReaderOfText);
     const FailingMemory::Pause pause;
     real(reader, text);
 }
